@@ -1,0 +1,33 @@
+# The one place for the compiler's flags: every target of ours links curvegrab_options.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CURVEGRAB_CCACHE ccache)
+if(CURVEGRAB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CURVEGRAB_CCACHE})
+endif()
+
+add_library(curvegrab_options INTERFACE)
+target_include_directories(curvegrab_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(curvegrab_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wunused
+    # Expressions compute as they are written: a fused multiply-add would change results.
+    -ffp-contract=off)
+if(CURVEGRAB_WERROR)
+    target_compile_options(curvegrab_options INTERFACE -Werror)
+endif()
+if(CURVEGRAB_SANITIZE)
+    target_compile_options(curvegrab_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(curvegrab_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# Qt's share of the flags: only the folders above conversion may link this.
+add_library(curvegrab_qt_options INTERFACE)
+target_link_libraries(curvegrab_qt_options INTERFACE curvegrab_options)
+target_compile_definitions(curvegrab_qt_options INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -1,0 +1,57 @@
+# curvegrab_add_folder(<name> SOURCES <files…> LINK <targets…>)
+# A folder of src/ is a static library of the same name. What it links says which
+# folders it may include; the graph runs downwards only (docs/architecture.md).
+function(curvegrab_add_folder name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+endfunction()
+
+# As above, for a folder that uses Qt: meta objects, resources and .ui files are
+# compiled, and the texts of .ui files are looked up by their ids.
+function(curvegrab_add_qt_folder name)
+    curvegrab_add_folder(${name} ${ARGN})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON AUTOUIC ON AUTORCC ON
+        AUTOUIC_OPTIONS "--idbased;--no-autoconnection;--connections;pmf")
+    target_link_libraries(${name} PUBLIC curvegrab_qt_options Qt6::Core Qt6::Gui)
+endfunction()
+
+# curvegrab_add_test(<name> SOURCES <files…> LINK <targets…> [GUI] [X11])
+# GUI: the test has a QApplication on the offscreen platform.
+# X11: it runs once more in a real window system (Xvfb) under the label x11.
+function(curvegrab_add_test name)
+    cmake_parse_arguments(ARG "GUI;X11" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} curvegrab_options GTest::gtest)
+    if(ARG_GUI)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+        target_link_libraries(${name} PRIVATE test_support_gui)
+    else()
+        target_link_libraries(${name} PRIVATE GTest::gtest_main)
+    endif()
+    set(environment "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=1;QT_LOGGING_RULES=qt.qpa.*=false")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${environment}")
+    if(ARG_X11)
+        add_test(NAME ${name}-x11
+            COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-xvfb $<TARGET_FILE:${name}>)
+        set_tests_properties(${name}-x11 PROPERTIES TIMEOUT 300 LABELS x11
+            ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_SCALE_FACTOR=1")
+    endif()
+endfunction()
+
+# curvegrab_add_catalogue(<target>): the English texts, compiled from one .ts file
+# per folder (resources/i18n/en/) into the resource :/i18n/curvegrab_en.qm.
+file(GLOB CURVEGRAB_TEXTS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/i18n/en/*.ts)
+function(curvegrab_add_catalogue target)
+    get_target_property(lrelease Qt6::lrelease IMPORTED_LOCATION)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_texts)
+    set(catalogue ${folder}/curvegrab_en.qm)
+    add_custom_command(OUTPUT ${catalogue}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+        COMMAND ${lrelease} -silent -idbased ${CURVEGRAB_TEXTS} -qm ${catalogue}
+        DEPENDS ${CURVEGRAB_TEXTS} VERBATIM)
+    set_source_files_properties(${catalogue} PROPERTIES GENERATED ON)
+    qt_add_resources(${target} ${target}_texts PREFIX /i18n BASE ${folder} FILES ${catalogue})
+endfunction()
