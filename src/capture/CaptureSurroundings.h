@@ -16,7 +16,8 @@ class UndoManager;
 using IndexSet = std::set<int>;
 
 /// How the points of one series are drawn.
-struct PlotStyle {
+struct PlotStyle
+{
     DeviceColor color;
     float size = 0;      ///< side of the marker square, view points
     float thickness = 0; ///< width of outlines and lines, view points
@@ -58,6 +59,7 @@ class CapturePrefs
 public:
     virtual ~CapturePrefs() = default;
     [[nodiscard]] virtual bool copyWithTitle() const = 0;
+    [[nodiscard]] virtual bool saveWithTitle() const = 0;
     [[nodiscard]] virtual PlotStyle plotPrefsForSeries(int series) const = 0;
     [[nodiscard]] virtual DeviceColor guideColor() const = 0;
     [[nodiscard]] virtual float guideThick() const = 0;

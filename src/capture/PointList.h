@@ -1,0 +1,51 @@
+#pragma once
+
+#include "geometry/ZKVector.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+/// The points of one series in their order, as a value: a copy is a snapshot that later changes
+/// of the original do not touch.
+///
+/// Copies share their storage, so that the undo records of a long session stay small. Of all
+/// copies that grew out of one list, only the one read last is held as a whole; each of the
+/// others holds what tells it from its neighbour, usually a single point.
+class PointList
+{
+public:
+    PointList();
+    explicit PointList(std::vector<ZKVector> points);
+    ~PointList();
+    PointList(const PointList &other) = default;
+    PointList &operator=(const PointList &other) = default;
+    PointList(PointList &&other) = default;
+    PointList &operator=(PointList &&other) = default;
+
+    [[nodiscard]] bool isEmpty() const { return size() == 0; }
+    [[nodiscard]] std::size_t size() const;
+
+    /// The points in order. The reference holds until this list changes, or a copy of it is
+    /// read or changed.
+    [[nodiscard]] const std::vector<ZKVector> &points() const;
+
+    void append(const ZKVector &point);
+
+    /// Adds `point` where it is found after appending it and sorting the list.
+    void appendSorted(const ZKVector &point);
+
+    /// Sorts ascending by `compare:` of the points; equal points keep their order. Points with
+    /// NaN, which compare equal to everything, do no harm.
+    void sort();
+
+    void clear();
+
+private:
+    struct Version;
+
+    /// Replaces `removed` points from index `first` on by `inserted`.
+    void replace(std::size_t first, std::size_t removed, std::vector<ZKVector> inserted);
+
+    std::shared_ptr<Version> m_version;
+};
