@@ -1,0 +1,210 @@
+#pragma once
+
+#include "archiving/ArchiveTree.h"
+#include "geometry/FloatGeometry.h"
+#include "imageview/ArchivedPicture.h"
+#include "imageview/Picture.h"
+#include "imageview/ScaledImage.h"
+
+#include <QTimer>
+#include <QUrl>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+class ImageViewAxes;
+class ImageViewDocument;
+class ImageViewGuide;
+class ImageViewInfoPanel;
+class ImageViewPrefs;
+class ImageViewSeries;
+class PictureOpener;
+class PictureScrollArea;
+class QAbstractButton;
+class ZoomSlider;
+
+/// What the picture view is connected to in its document's window; all of it outlives the view's
+/// use.
+struct ImageViewOutlets
+{
+    ImageViewDocument *document = nullptr;
+    ImageViewAxes *currentAxes = nullptr;
+    ImageViewGuide *cursorGuide = nullptr;
+    ImageViewSeries *dataSeries = nullptr;
+    ImageViewInfoPanel *infoPanel = nullptr;
+    ImageViewPrefs *prefs = nullptr;
+    QAbstractButton *rotateCWButton = nullptr;
+    QAbstractButton *rotateCCWButton = nullptr;
+    QAbstractButton *fitWidthButton = nullptr;
+    QAbstractButton *fitHeightButton = nullptr;
+    ZoomSlider *magnificationSlider = nullptr;
+    QWidget *actionSelectionTab = nullptr; ///< shown only while there is a picture
+    QWidget *noImageTab = nullptr;         ///< shown in its place while there is none
+};
+
+/// The view that shows the picture: its scale and rotation, its part of the mouse, its drawing.
+///
+/// View coordinates are points with the origin at the picture's bottom left and y upwards: picture
+/// coordinates (after rotation) times imageScale(). Widget pixels are turned into them in one
+/// place, viewPoint(), and nothing else knows that widgets count downwards.
+class GraphImageView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr float minimumScale = 0.125F;
+    static constexpr float maximumScale = 2.0F;
+    /// The space that the window's frame and controls take beside (above and below) the picture.
+    static constexpr float marginWidth = 37;
+    static constexpr float marginHeight = 207;
+    /// The width that a new picture leaves free for the drawer.
+    static constexpr float drawerWidth = 230;
+
+    /// Places itself in `scrollArea`, which becomes its parent.
+    explicit GraphImageView(PictureScrollArea &scrollArea);
+    ~GraphImageView() override;
+
+    void connectOutlets(const ImageViewOutlets &outlets);
+    /// Once, after connectOutlets(): the start without a picture.
+    void awakeFromNib();
+
+    [[nodiscard]] bool hasImage() const;
+    /// The size of the picture as loaded, or the zero size without one.
+    [[nodiscard]] FloatSize imageSize() const;
+    /// The size as shown, in view points, or the zero size without a picture.
+    [[nodiscard]] FloatSize scaledImageSize() const;
+    /// imageSize() with its sides exchanged unless the rotation is 0 or 180.
+    [[nodiscard]] FloatSize imageSizeWithRotate() const;
+    [[nodiscard]] float imageScale() const { return m_imageScale; }
+    /// Degrees counter-clockwise: 0, 90, 180 or 270.
+    [[nodiscard]] float imageRotation() const { return m_rotation; }
+    /// What a press would do, or does (MouseDownMode).
+    [[nodiscard]] int mouseDownMode() const { return m_mouseDownMode; }
+
+    /// Takes the picture of a local file. False: refused, and a sheet says why; the present
+    /// picture stays. Large files are read in the background: then true says that reading has
+    /// begun, and `fileOpened` how it ended.
+    bool openImageFile(const QUrl &url);
+    /// Makes a picture of pixels; false for null pixels.
+    bool replaceImageWithImageRep(const QImage &rep);
+    /// Installs a picture, upright, at its initial scale. Nothing gives false, but what hangs on
+    /// the picture is brought up to date all the same.
+    bool replaceImageWith(std::optional<Picture> image);
+
+    void imageRotateCw();
+    void imageRotateCcw();
+
+    void zoomIn();
+    void zoomOut();
+    void zoomToActualSize();
+    void zoomToFitWidth();
+    void zoomToFitHeight();
+    /// The action of the zoom slider.
+    void imageScaleChanged();
+    [[nodiscard]] bool canZoomIn() const;
+    [[nodiscard]] bool canZoomOut() const;
+    [[nodiscard]] bool canZoomToActual() const;
+
+    /// `rescaleImageWith:sliderFeedback:` rescales about the centre of what is visible.
+    void rescaleImageWith(float scale, bool sliderFeedback);
+    /// `rescaleImageWith:atCenter:sliderFeedback:` rescales so that the view point `atCenter`
+    /// comes to the centre of the clip.
+    void rescaleImageWith(float scale, FloatPoint atCenter, bool sliderFeedback);
+
+    /// Brings the controls and the hover timer in line with the picture and the page.
+    void setButtonStates();
+
+    [[nodiscard]] ArchiveDictionary dataForSave() const;
+    /// False for no data. A damaged picture counts as none.
+    bool loadFromData(const ArchiveDictionary *data);
+
+    /// The page of the action tab was changed.
+    void settingModeChanged();
+    void prefsChanged();
+    void windowWillClose();
+
+    void startMouseChecking();
+    void stopMouseChecking();
+    /// One look at the pointer: cursor and guide follow it.
+    void mouseCheckRoutine();
+
+    /// `mosueDownMode:` is the mode that the modifier keys choose on the present page.
+    [[nodiscard]] int mosueDownMode(Qt::KeyboardModifiers modifierFlags) const;
+
+    void setNeedsDisplay();
+
+    /// The point in view coordinates of a point in window coordinates (y upwards from the
+    /// bottom left of the window's content).
+    [[nodiscard]] FloatPoint convertPointFromWindow(FloatPoint windowPoint) const;
+
+    /// From the first move of an anchor drag that hit something to its release. Commands and
+    /// keys that arrive meanwhile act after it, when `anchorDragEnded` is sent.
+    [[nodiscard]] bool isTrackingAnchorDrag() const { return m_trackingAnchorDrag; }
+
+Q_SIGNALS:
+    void anchorDragEnded();
+    /// The reading of a large file has ended; `taken` says whether its picture was installed.
+    void fileOpened(bool taken);
+    void pictureChanged();
+    void scaleChanged(float scale);
+    void mouseDownModeChanged(int mode);
+    /// The pointer in picture coordinates, or nothing when it is not on the visible picture.
+    void hoverChanged(std::optional<FloatPoint> inPicture);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void imageRotated();
+    void makeScaledImage();
+    void zoomAbout(double factor, QPointF viewportPosition);
+
+    void mouseDown(FloatPoint windowPoint, FloatPoint viewPosition, int mode);
+    void mouseDragged(FloatPoint windowPoint);
+    void mouseUp();
+    void dragAnchors(FloatPoint windowPoint);
+    void endAnchorDrag(FloatPoint windowPoint);
+
+    void drawRect(QPainter &painter, const QRect &dirtyRect);
+    void drawHint(QPainter &painter) const;
+
+    [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
+    [[nodiscard]] FloatPoint windowPoint(QPointF widgetPosition) const;
+    [[nodiscard]] FloatPoint pointerInView() const;
+    [[nodiscard]] int modeOfHeldKeys(Qt::KeyboardModifiers modifierFlags) const;
+    void setMouseDownMode(int mode);
+    void setHover(std::optional<FloatPoint> inPicture);
+    void setModeCursor(int mode);
+
+    PictureScrollArea &m_scrollArea;
+    ImageViewOutlets m_outlets;
+    std::unique_ptr<PictureOpener> m_opener;
+
+    float m_imageScale = 0.1F;
+    float m_rotation = 0;
+    std::optional<Picture> m_originalImage;
+    std::optional<ScaledImage> m_scaledImage;
+    mutable std::shared_ptr<const ArchivedPicture> m_archivedImage; ///< made at the first save
+
+    QTimer m_mouseCheckTimer;
+    int m_mouseDownMode = 0;
+    bool m_justMouseDown = false;
+    bool m_inDragging = false;
+    FloatPoint m_initialMousePos; ///< window coordinates
+    FloatPoint m_initialViewPos;
+    FloatPoint m_initialOrigin;
+
+    bool m_leftButtonIsDown = false; ///< a press that counted, until its release
+    bool m_trackingAnchorDrag = false;
+    bool m_spaceIsHeld = false;
+    bool m_windowWasActive = false;
+    std::optional<FloatPoint> m_hover;
+};
