@@ -4,14 +4,16 @@
 /// Every store into one narrows; the origin is at the bottom left and y grows upwards.
 
 /// A point; which space it is in (picture, view, window, graph) is said where it is used.
-struct FloatPoint {
+struct FloatPoint
+{
     float x = 0;
     float y = 0;
 
     friend bool operator==(const FloatPoint &, const FloatPoint &) = default;
 };
 
-struct FloatSize {
+struct FloatSize
+{
     float width = 0;
     float height = 0;
 
@@ -19,7 +21,8 @@ struct FloatSize {
 };
 
 /// A rectangle by its bottom left corner and its size.
-struct FloatRect {
+struct FloatRect
+{
     FloatPoint origin;
     FloatSize size;
 
