@@ -11,7 +11,8 @@ class Desktop
 public:
     virtual ~Desktop() = default;
 
-    /// The full size (points) of the screen that shows the document's window, else of the primary one.
+    /// The full size (points) of the screen that shows the document's window, else of the primary
+    /// one.
     [[nodiscard]] virtual FloatSize mainScreenSize() const = 0;
 
     /// The pointer in global, y-down desktop pixels, outside the event stream.

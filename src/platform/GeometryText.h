@@ -13,7 +13,8 @@ namespace geometrytext {
 [[nodiscard]] std::string stringFromSize(FloatSize size);
 [[nodiscard]] std::string stringFromRect(FloatRect rect);
 
-/// The readers take any number in the C locale; text that is no such form gives zeros.
+/// The readers take any decimal number in the C locale and blanks anywhere between the parts;
+/// text that is no such form, or a number beyond the range of a float, gives zeros throughout.
 [[nodiscard]] FloatPoint pointFromString(std::string_view text);
 [[nodiscard]] FloatSize sizeFromString(std::string_view text);
 [[nodiscard]] FloatRect rectFromString(std::string_view text);

@@ -20,8 +20,9 @@ namespace numbertext {
 [[nodiscard]] std::string fixed(double value, int decimals);
 
 /// The number that a field's text begins with: blanks are skipped, then the longest decimal
-/// prefix with an exponent counts; one comma between digits is read as the point; no hexadecimal, no
-/// "inf", no "nan". Nothing readable is 0.
+/// prefix with an exponent counts; one comma between digits is read as the point; no hexadecimal,
+/// no "inf", no "nan". Nothing readable is 0. What is too large for a double is the largest finite
+/// one, so that a field never holds an infinity.
 [[nodiscard]] double doubleValue(const QString &text);
 
 /// The whole number that a field's text begins with; a fraction is dropped ("250.9" is 250,

@@ -5,7 +5,8 @@
 #include <functional>
 
 /// A message or question at a document's window.
-struct Sheet {
+struct Sheet
+{
     QString message;         ///< the title line, in bold
     QString informativeText; ///< the explanation below it
     QString defaultButton;   ///< the button that Return presses

@@ -13,6 +13,9 @@
 /// Whoever starts a change registers its inverse. Everything registered while one
 /// user event is handled forms one group; undo runs the inverses of the last group
 /// in reverse order, and what they register becomes the redo group of the same name.
+///
+/// A group is closed by closeGroup(), undo() and redo(), before the next input event that
+/// reaches one of the program's windows, and at the end of the event loop's pass at the latest.
 class UndoManager : public QObject
 {
     Q_OBJECT
@@ -37,17 +40,20 @@ public:
     /// redo history while undo runs. A new change outside undo and redo drops the redo history.
     void registerUndo(Target target, std::function<void()> inverse);
 
-    /// Names the group of the current event; the redo of that group bears the name too.
+    /// Names the group of the current event; the redo of that group bears the name too. While
+    /// undo or redo runs the name stays that of the group that is run.
     void setActionName(const QString &name);
 
-    /// Drops the actions of `target`, and only those, from both histories and from the
-    /// open group. A group that loses its last action is dropped.
+    /// Drops the actions of `target`, and only those, from both histories, from the open group
+    /// and from what a running undo has still to run. A group that loses its last action is
+    /// dropped.
     void removeAllActionsWithTarget(Target target);
 
     /// Ends the group of the current event now. Without actions nothing is kept.
     void closeGroup();
 
-    /// Runs the last undo (redo) group; an open group is closed first. Nothing to do: nothing happens.
+    /// Runs the last undo (redo) group; an open group is closed first. Nothing to do: nothing
+    /// happens.
     void undo();
     void redo();
 
@@ -60,11 +66,13 @@ Q_SIGNALS:
     void historyChanged();
 
 private:
-    struct Action {
+    struct Action
+    {
         Target target;
         std::function<void()> inverse;
     };
-    struct Group {
+    struct Group
+    {
         QString name;
         std::vector<Action> actions;
     };
@@ -72,11 +80,18 @@ private:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
     void openGroup();
+    void closeGroupLater();
     void run(std::vector<Group> &from, std::vector<Group> &to, Running what, ChangeKind kind);
+
+    static void removeActions(Target target, std::vector<Group> &groups);
 
     std::vector<Group> m_undoGroups;
     std::vector<Group> m_redoGroups;
     Group m_openGroup;
     bool m_groupIsOpen = false;
+    int m_groupNumber = 0; ///< tells a group's own deferred closing from an older one's
+
     Running m_running = Running::Nothing;
+    Group m_runningGroup; ///< what undo or redo has still to run
+    Group m_inverseGroup; ///< what the running actions have registered
 };

@@ -18,7 +18,7 @@ public:
     /// The file in the user's configuration folder.
     [[nodiscard]] static QString standardPath();
 
-    /// The value under `key`, or nothing.
+    /// The value under `key`, or nothing; a null in the file counts as nothing.
     [[nodiscard]] std::optional<QJsonValue> objectForKey(const QString &key) const;
 
     void setObject(const QJsonValue &value, const QString &key);

@@ -13,5 +13,40 @@
         <extracomment>The button that gives up a question without doing anything.</extracomment>
         <translation>Cancel</translation>
     </message>
+    <message id="platform.files.texts">
+        <source>Text files</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Text files</translation>
+    </message>
+    <message id="platform.files.pictures">
+        <source>Pictures</source>
+        <extracomment>Kind of file in the open panel.</extracomment>
+        <translation>Pictures</translation>
+    </message>
+    <message id="platform.files.all">
+        <source>All files</source>
+        <extracomment>Kind of file in the open panel.</extracomment>
+        <translation>All files</translation>
+    </message>
+    <message id="platform.files.openPicture">
+        <source>Open Picture</source>
+        <extracomment>Title of the panel that asks for a picture file.</extracomment>
+        <translation>Open Picture</translation>
+    </message>
+    <message id="platform.files.overwrite">
+        <source>“%1” already exists. Replace it?</source>
+        <extracomment>Question before a file is overwritten; %1 is its name.</extracomment>
+        <translation>“%1” already exists. Replace it?</translation>
+    </message>
+    <message id="platform.files.overwriteHint">
+        <source>Replacing it overwrites what it holds now. Cancel to choose another name.</source>
+        <extracomment>Explanation of the question before a file is overwritten.</extracomment>
+        <translation>Replacing it overwrites what it holds now. Cancel to choose another name.</translation>
+    </message>
+    <message id="platform.files.replace">
+        <source>Replace</source>
+        <extracomment>The button that overwrites a file.</extracomment>
+        <translation>Replace</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FilePanels.h"
+
+#include <QString>
+
+class QDialog;
+class WindowSheets;
+
+/// The file choosers of one window; they wait in the queue of the window's sheets.
+class WindowFilePanels final : public FilePanels
+{
+public:
+    /// `sheets` outlives the panels, and the panels everything that is asked through them.
+    explicit WindowFilePanels(WindowSheets &sheets);
+
+    void chooseTextFileToSave(const QString &message, const QString &proposedName,
+                              std::function<void(const QString &path)> chosen) override;
+    void choosePictureToOpen(const QStringList &suffixes,
+                             std::function<void(const QString &path)> chosen) override;
+
+private:
+    using Chosen = std::function<void(const QString &path)>;
+
+    void save(const QString &message, const QString &path, const Chosen &chosen);
+    void remember(const QDialog &panel);
+
+    WindowSheets &m_sheets;
+    QString m_folder; ///< where the user was last
+};
