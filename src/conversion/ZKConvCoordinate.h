@@ -4,6 +4,7 @@
 #include "geometry/FloatGeometry.h"
 #include "geometry/ZKVector.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -103,14 +104,26 @@ protected:
     /// Converters compare their vectors and matrices with this relative tolerance.
     static constexpr double equalityTolerance = 0.0002;
 
+    [[nodiscard]] static bool areEqual(const std::optional<ZKVector> &a,
+                                       const std::optional<ZKVector> &b)
+    {
+        return a && b && a->isEqualTo(*b, equalityTolerance);
+    }
+
+    /// A vector of the plane; nothing, and a failed coder, for any other dimension.
+    [[nodiscard]] static std::optional<ZKVector> planeVectorWithCoder(SequentialDecoder &coder);
+
+    /// Replaces both values of a log axis by their log10; false when one is not above 0.
+    [[nodiscard]] static bool takeLog10(double &value0, double &value1);
+
     /// Component `index` of log10Conversion or power10Conversion, without a vector around it.
     [[nodiscard]] double log10OfComponent(double value, std::size_t index) const
     {
-        return isLogarithmic(index) ? log10Of(value) : value;
+        return isLogarithmic(index) ? std::log10(value) : value;
     }
     [[nodiscard]] double power10OfComponent(double value, std::size_t index) const
     {
-        return isLogarithmic(index) ? power10Of(value) : value;
+        return isLogarithmic(index) ? std::pow(10.0, value) : value;
     }
 
 private:
@@ -118,8 +131,6 @@ private:
     {
         return index < m_logConversion.size() && m_logConversion[index] != 0;
     }
-    [[nodiscard]] static double log10Of(double value);
-    [[nodiscard]] static double power10Of(double value);
 
     std::int32_t m_converterType;
     std::vector<std::int8_t> m_logConversion;

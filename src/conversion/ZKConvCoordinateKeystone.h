@@ -79,9 +79,11 @@ public:
     [[nodiscard]] bool initWithCoder(SequentialDecoder &coder) override;
 
 private:
-    [[nodiscard]] bool prepareAxes(const ZKVector &pointLB, const ZKVector &pointRB,
-                                   const ZKVector &pointLT, const ZKVector &pointRT);
+    [[nodiscard]] bool prepareAxes(const ZKVector &leftBottom, const ZKVector &rightBottom,
+                                   const ZKVector &leftTop, const ZKVector &rightTop);
     [[nodiscard]] bool isPrepared() const { return m_axisX.has_value() && m_axisY.has_value(); }
+    [[nodiscard]] ZKVector directionX(const ZKVector &picturePoint) const;
+    [[nodiscard]] ZKVector directionY(const ZKVector &picturePoint) const;
 
     std::optional<ZKVector> m_origin;
     std::optional<ZKVector> m_unitX;
