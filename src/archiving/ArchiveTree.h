@@ -47,9 +47,9 @@ private:
 
 /// A node of the archive tree: a property-list value or an object that archives itself. An object
 /// held by several nodes is one object again after loading.
-struct ArchiveValue {
+struct ArchiveValue
+{
     std::variant<std::monostate, bool, std::int64_t, float, double, std::string, ArchiveArray,
                  ArchiveDictionary, std::shared_ptr<const Archivable>>
         value;
 };
-

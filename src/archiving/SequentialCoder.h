@@ -9,7 +9,8 @@
 #include <vector>
 
 /// A point as it is archived: two 32-bit floats, type code "{_NSPoint=ff}".
-struct ArchivedPoint {
+struct ArchivedPoint
+{
     float x = 0;
     float y = 0;
 
@@ -61,6 +62,9 @@ public:
     [[nodiscard]] std::size_t remaining() const;
 
 private:
+    template <class T>
+    [[nodiscard]] T next();
+
     std::span<const ArchivedItem> m_items;
     bool m_failed = false;
 };

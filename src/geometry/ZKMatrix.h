@@ -4,7 +4,9 @@
 #include "geometry/InlineDoubles.h"
 #include "geometry/ZKVector.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -182,6 +184,10 @@ private:
     {
         return a11 * a22 - a12 * a21;
     }
+    [[nodiscard]] static std::optional<ZKMatrix> matrixOnHeap(int rows, int cols);
+    /// The first row from `row` downwards whose element in column `row` is not exactly 0.0; the
+    /// number of rows when there is none.
+    [[nodiscard]] int pivotRowFrom(int row) const;
     [[nodiscard]] double determinantByElimination() const;
     [[nodiscard]] std::optional<ZKVector> solveByDeterminants() const;
 
@@ -190,6 +196,15 @@ private:
     int m_matSize;
     InlineDoubles<kInPlace> m_matrix;
 };
+
+inline std::optional<ZKMatrix> ZKMatrix::matrixWithRows(int rows, int cols)
+{
+    if (rows <= 0 || cols <= 0 || rows > std::numeric_limits<int>::max() / cols)
+        return std::nullopt;
+    if (static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols) > kInPlace)
+        return matrixOnHeap(rows, cols);
+    return ZKMatrix(rows, cols);
+}
 
 inline ZKMatrix ZKMatrix::matrixWithA11(double a11, double a12, double a21, double a22)
 {
@@ -229,6 +244,28 @@ inline void ZKMatrix::getElementsA11(double &a11, double &a12, double &a21, doub
     a12 = elements[1];
     a21 = elements[2];
     a22 = elements[3];
+}
+
+inline void ZKMatrix::setRowVector(const ZKVector &vector, int at)
+{
+    if (!hasRow(at))
+        return;
+    const int count = std::min(m_cols, vector.dimension());
+    const double *components = vector.buffer();
+    double *row = buffer() + offsetOf(at);
+    for (int j = 0; j < count; ++j)
+        row[j] = components[j];
+}
+
+inline void ZKMatrix::setColumnVector(const ZKVector &vector, int at)
+{
+    if (!hasColumn(at))
+        return;
+    const int count = std::min(m_rows, vector.dimension());
+    const double *components = vector.buffer();
+    double *column = buffer() + at;
+    for (int i = 0; i < count; ++i)
+        column[offsetOf(i)] = components[i];
 }
 
 inline std::optional<ZKVector> ZKMatrix::mulVector(const ZKVector &vector) const
