@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/FilePanels.h"
+
+#include <functional>
+#include <utility>
+
+/// File panels that a test reads and answers; one panel is up at a time.
+class FakeFilePanels final : public FilePanels
+{
+public:
+    void chooseTextFileToSave(const QString &message, const QString &proposedName,
+                              std::function<void(const QString &path)> chosen) override
+    {
+        m_message = message;
+        m_proposedName = proposedName;
+        m_chosen = std::move(chosen);
+        ++m_saveCount;
+    }
+
+    void choosePictureToOpen(const QStringList &suffixes,
+                             std::function<void(const QString &path)> chosen) override
+    {
+        m_suffixes = suffixes;
+        m_chosen = std::move(chosen);
+        ++m_openCount;
+    }
+
+    [[nodiscard]] bool isAsking() const { return m_chosen != nullptr; }
+    [[nodiscard]] const QString &message() const { return m_message; }
+    [[nodiscard]] const QString &proposedName() const { return m_proposedName; }
+    [[nodiscard]] const QStringList &suffixes() const { return m_suffixes; }
+    [[nodiscard]] int saveCount() const { return m_saveCount; }
+    [[nodiscard]] int openCount() const { return m_openCount; }
+
+    /// Confirms the panel with `path`; false if none is up.
+    bool confirm(const QString &path)
+    {
+        const auto chosen = std::exchange(m_chosen, nullptr);
+        if (!chosen)
+            return false;
+        chosen(path);
+        return true;
+    }
+
+    /// Closes the panel without a file.
+    void cancel() { m_chosen = nullptr; }
+
+private:
+    std::function<void(const QString &path)> m_chosen;
+    QString m_message;
+    QString m_proposedName;
+    QStringList m_suffixes;
+    int m_saveCount = 0;
+    int m_openCount = 0;
+};
