@@ -5,6 +5,7 @@
 #include "geometry/ZKLine.h"
 #include "geometry/ZKVector.h"
 
+#include <array>
 #include <optional>
 
 /// One drag of an anchor, a side, a handle or the whole area, from the press to the release.
@@ -28,17 +29,22 @@ public:
 private:
     using OptionalLine = std::optional<ZKLine>;
 
-    void moveAll(FloatPoint d, Anchors &a) const;
+    static constexpr int firstSidePart = 6;
+
     void moveParallelAxes(FloatPoint d, Anchors &a) const;
     void moveQuadrangle(FloatPoint d, Anchors &a) const;
     void movePolarAxes(FloatPoint mouse, FloatPoint d, Anchors &a) const;
 
+    void moveAll(FloatPoint d, Anchors &a) const;
     void moveOriginCorner(FloatPoint d, Anchors &a) const;
     void moveFarCorner(FloatPoint d, Anchors &a) const;
-    void slideSide(int side, FloatPoint d, Anchors &a) const;
-    void pivotSide(int side, FloatPoint d, Anchors &a) const;
+    /// Moves the side of code `part` parallel to itself, its ends on the neighbouring sides.
+    void slideSide(int part, FloatPoint d, Anchors &a) const;
+    /// Turns the side about the vanishing point of itself and its opposite side.
+    void pivotSide(int part, FloatPoint d, Anchors &a) const;
 
-    void turnRadius(FloatPoint mouse, bool opposite, Anchors &a) const;
+    [[nodiscard]] ZKVector fromCentre(FloatPoint mouse, FloatPoint centre) const;
+    void turnRadius(FloatPoint mouse, Anchors &a) const;
     void resizeRadius(FloatPoint mouse, Anchors &a) const;
 
     int m_axisType;
@@ -46,10 +52,7 @@ private:
     Anchors m_start;
     FloatPoint m_press;
     float m_scale;
-    OptionalLine m_line12;
-    OptionalLine m_line23;
-    OptionalLine m_line34;
-    OptionalLine m_line41;
-    ZKVector m_startRadius; ///< R0, from the centre to the radius end, picture points
-    ZKVector m_startMouse;  ///< S, from the centre to the press, picture points
+    std::array<OptionalLine, 4> m_lines; ///< at the press: 1-2, 2-3, 3-4, 4-1
+    ZKVector m_startRadius;              ///< from the centre to the radius end, picture points
+    ZKVector m_startMouse;               ///< from the centre to the press, picture points
 };

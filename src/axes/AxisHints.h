@@ -4,8 +4,8 @@
 
 namespace axishints {
 
-/// What a press on the part of code `part` will do on axes of `axisType`, in words for the status
-/// line; empty for no part.
+/// What a press on the part of code `part` (anchorlayout::partOfHit) will do on axes of
+/// `axisType`, in words for the status line; for part 0, what can be taken hold of.
 [[nodiscard]] QString hintForPart(int axisType, int part);
 
 } // namespace axishints

@@ -32,7 +32,7 @@ class QPushButton;
 class TextField;
 
 /// The controls of the axis-settings page, and those of the digitizing page whose titles follow
-/// the kind of axes. The window owns them; they outlive the controller or vanish with it.
+/// the kind of axes. All must be there; the window owns them, and they outlive the controller.
 struct CurrentAxesOutlets
 {
     QComboBox *axisTypePopup = nullptr;
@@ -121,6 +121,8 @@ public:
     /// Names the undo group of the current event by `actionNameKey` and registers an undo that
     /// puts the present anchors back. Whoever is going to move the anchors calls it first.
     void registerAnchorUndo(const char *actionNameKey);
+    /// Drops every undo and redo of the anchors from the document's history.
+    void removeAnchorUndo();
 
     /// Brings the titles and boxes in line with the kind of axes.
     void replaceAxisDisplay();
@@ -185,9 +187,9 @@ private:
     void logSwitched(const AxisFields &axis);
     void apply(const RangeCorrection &correction, const AxisFields &axis);
 
-    [[nodiscard]] bool hasPicture() const;
+    void readOutPixels(const AxisFields &axis, double maximum);
+    void closeParallelogram();
     void layOutUnlessSentBy(Sender sender);
-    void moveDragTo(FloatPoint viewPoint);
 
     CurrentAxesOutlets m_outlets;
     AxesDocument &m_document;
