@@ -137,9 +137,15 @@ public Q_SLOTS:
     void simulateToggleSort();
 
 private:
+    /// Sees to it that a point taken with `converter` may join the current series, which may
+    /// become another one; false: every series is in use.
     [[nodiscard]] bool makeRoomForConverter(const SeriesConverter &converter);
+    void registerUndoOfCurrentSeries();
+    void registerUndoOfSeries(const IndexSet &series);
+    void moveToSeries(int series);
+    void takeSeriesFromPopup();
+    void showDrawModeOfCurrentSeries();
     void chooseDrawMode(int mode);
-    void selectSeries(int series);
 
     const DataSeriesOutlets m_outlets;
     const DataSeriesSurroundings m_surroundings;

@@ -17,11 +17,10 @@ class PointList
 public:
     PointList();
     explicit PointList(std::vector<ZKVector> points);
-    ~PointList();
+    // Copies only: a list that was moved from would be no list.
     PointList(const PointList &other) = default;
     PointList &operator=(const PointList &other) = default;
-    PointList(PointList &&other) = default;
-    PointList &operator=(PointList &&other) = default;
+    ~PointList() = default;
 
     [[nodiscard]] bool isEmpty() const { return size() == 0; }
     [[nodiscard]] std::size_t size() const;
@@ -32,7 +31,7 @@ public:
 
     void append(const ZKVector &point);
 
-    /// Adds `point` where it is found after appending it and sorting the list.
+    /// Adds `point` and sorts the list; quick while the list is in order already.
     void appendSorted(const ZKVector &point);
 
     /// Sorts ascending by `compare:` of the points; equal points keep their order. Points with
@@ -43,6 +42,8 @@ public:
 
 private:
     struct Version;
+
+    void becomeRoot() const;
 
     /// Replaces `removed` points from index `first` on by `inserted`.
     void replace(std::size_t first, std::size_t removed, std::vector<ZKVector> inserted);

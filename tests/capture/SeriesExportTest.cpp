@@ -1,0 +1,258 @@
+#include "capture/SeriesExport.h"
+
+#include "SeriesFixture.h"
+#include "platform/FilePanels.h"
+#include "platform/Texts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace {
+
+struct SaveQuestion
+{
+    QString message;
+    QString proposedName;
+    std::function<void(const QString &)> chosen;
+};
+
+class RecordingPanels final : public FilePanels
+{
+public:
+    void chooseTextFileToSave(const QString &message, const QString &proposedName,
+                              std::function<void(const QString &)> chosen) override
+    {
+        questions.push_back({message, proposedName, std::move(chosen)});
+    }
+    void choosePictureToOpen(const QStringList & /*suffixes*/,
+                             std::function<void(const QString &)> /*chosen*/) override
+    {}
+
+    std::vector<SaveQuestion> questions;
+};
+
+/// A disk on which no file grows beyond a few bytes.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit = m_before;
+        limit.rlim_cur = 4;
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handlerBefore);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handlerBefore)(int) = SIG_DFL;
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+void write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+class SeriesExportFixture : public SeriesFixture
+{
+protected:
+    [[nodiscard]] QString path(const QString &name) const { return folder.filePath(name); }
+
+    QTemporaryDir folder;
+    RecordingPanels panels;
+    QString displayName = QStringLiteral("Chart.crvgrab");
+    SeriesExport dataExport{{series, panels, document.messages, prefs},
+                            [this] { return displayName; }};
+};
+
+TEST_F(SeriesExportFixture, savingAllAsksWithTheMessageForAll)
+{
+    fill({0});
+    dataExport.saveDataAs();
+    ASSERT_EQ(panels.questions.size(), 1U);
+    EXPECT_EQ(panels.questions[0].message, texts::localized("SaveAllMessage"));
+}
+
+TEST_F(SeriesExportFixture, savingTheSelectionAsksWithTheMessageForTheSelection)
+{
+    fill({0});
+    table.selection = {0};
+    dataExport.saveSelectionAs();
+    ASSERT_EQ(panels.questions.size(), 1U);
+    EXPECT_EQ(panels.questions[0].message, texts::localized("SaveSelectionMessage"));
+}
+
+TEST_F(SeriesExportFixture, savingAllTakesEverySeriesThatHoldsPoints)
+{
+    fill({1, 4});
+    dataExport.saveDataAs();
+    panels.questions.at(0).chosen(path(QStringLiteral("all.txt")));
+    EXPECT_EQ(contentOf(path(QStringLiteral("all.txt"))), QByteArray("1\t1\t4\t4\n"));
+    EXPECT_TRUE(document.messages.shown.empty());
+}
+
+TEST_F(SeriesExportFixture, savingTheSelectionTakesTheSelectedSeries)
+{
+    fill({1, 4});
+    table.selection = {4};
+    dataExport.saveSelectionAs();
+    panels.questions.at(0).chosen(path(QStringLiteral("some.txt")));
+    EXPECT_EQ(contentOf(path(QStringLiteral("some.txt"))), QByteArray("4\t4\n"));
+}
+
+TEST_F(SeriesExportFixture, theTitleLineFollowsThePreferenceForSaving)
+{
+    prefs.saveTitle = true;
+    prefs.copyTitle = false;
+    fill({0});
+    dataExport.saveDataAs();
+    panels.questions.at(0).chosen(path(QStringLiteral("titled.txt")));
+    EXPECT_EQ(contentOf(path(QStringLiteral("titled.txt"))),
+              QByteArray("Series_01_x\tSeries_01_y\n0\t0\n"));
+}
+
+TEST_F(SeriesExportFixture, withoutPointsSavingAllDoesNothing)
+{
+    prefs.saveTitle = true;
+    dataExport.saveDataAs();
+    EXPECT_TRUE(panels.questions.empty());
+    EXPECT_TRUE(document.messages.shown.empty());
+}
+
+TEST_F(SeriesExportFixture, withoutSelectionSavingTheSelectionDoesNothing)
+{
+    fill({0});
+    dataExport.saveSelectionAs();
+    EXPECT_TRUE(panels.questions.empty());
+    EXPECT_TRUE(document.messages.shown.empty());
+}
+
+TEST_F(SeriesExportFixture, theTextIsTheOneOfTheMomentOfAsking)
+{
+    fill({0});
+    dataExport.saveDataAs();
+    fill({0, 1});
+    panels.questions.at(0).chosen(path(QStringLiteral("held.txt")));
+    EXPECT_EQ(contentOf(path(QStringLiteral("held.txt"))), QByteArray("0\t0\n"));
+}
+
+TEST_F(SeriesExportFixture, savingDoesNotMarkTheDocument)
+{
+    fill({0});
+    const int before = document.changeCount;
+    dataExport.saveDataAs();
+    panels.questions.at(0).chosen(path(QStringLiteral("clean.txt")));
+    EXPECT_EQ(document.changeCount, before);
+}
+
+TEST_F(SeriesExportFixture, theProposedNameHasTheExtensionTxt)
+{
+    const std::vector<std::pair<QString, QString>> names = {
+        {QStringLiteral("Chart.crvgrab"), QStringLiteral("Chart.txt")},
+        {QStringLiteral("scan.v2.png"), QStringLiteral("scan.v2.txt")},
+        {QStringLiteral("Untitled"), QStringLiteral("Untitled.txt")},
+        {QStringLiteral("Untitled 2"), QStringLiteral("Untitled 2.txt")},
+        {QStringLiteral(".hidden"), QStringLiteral(".hidden.txt")},
+    };
+    fill({0});
+    for (const auto &[shown, proposed] : names) {
+        displayName = shown;
+        dataExport.saveDataAs();
+        EXPECT_EQ(panels.questions.back().proposedName, proposed);
+    }
+}
+
+TEST_F(SeriesExportFixture, theFileIsAsciiWithLineFeedsOnly)
+{
+    dataExport.savePanelDidEnd(path(QStringLiteral("ascii.txt")), QStringLiteral("\u03b8\tr\n"));
+    EXPECT_EQ(contentOf(path(QStringLiteral("ascii.txt"))), QByteArray("?\tr\n"));
+}
+
+TEST_F(SeriesExportFixture, anEmptyTextMakesAnEmptyFile)
+{
+    dataExport.savePanelDidEnd(path(QStringLiteral("empty.txt")), QString());
+    EXPECT_EQ(contentOf(path(QStringLiteral("empty.txt"))), QByteArray());
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("empty.txt"))));
+}
+
+TEST_F(SeriesExportFixture, anExistingFileIsReplaced)
+{
+    write(path(QStringLiteral("old.txt")), "a long old content\n");
+    dataExport.savePanelDidEnd(path(QStringLiteral("old.txt")), QStringLiteral("1\t2\n"));
+    EXPECT_EQ(contentOf(path(QStringLiteral("old.txt"))), QByteArray("1\t2\n"));
+}
+
+TEST_F(SeriesExportFixture, aMissingFolderIsToldWithTheFileAndTheReason)
+{
+    dataExport.savePanelDidEnd(path(QStringLiteral("gone/data.txt")), QStringLiteral("1\t2\n"));
+    ASSERT_EQ(document.messages.shown.size(), 1U);
+    const Sheet &sheet = document.messages.shown[0];
+    EXPECT_TRUE(sheet.message.contains(QStringLiteral("data.txt")));
+    EXPECT_TRUE(sheet.informativeText.contains(QStringLiteral("gone")));
+    EXPECT_EQ(sheet.defaultButton, texts::localized("OK"));
+    EXPECT_TRUE(sheet.alternateButton.isEmpty());
+}
+
+TEST_F(SeriesExportFixture, aFolderInThePlaceOfTheFileIsTold)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("taken.txt")));
+    dataExport.savePanelDidEnd(path(QStringLiteral("taken.txt")), QStringLiteral("1\t2\n"));
+    ASSERT_EQ(document.messages.shown.size(), 1U);
+    EXPECT_EQ(document.messages.shown[0].informativeText,
+              texts::localized("capture.export.is-folder"));
+}
+
+TEST_F(SeriesExportFixture, aFullDiskIsToldAndLeavesTheOldFile)
+{
+    const QString file = path(QStringLiteral("kept.txt"));
+    write(file, "old\n");
+    {
+        const FullDisk disk;
+        dataExport.savePanelDidEnd(file, QStringLiteral("1\t2\n3\t4\n"));
+    }
+    EXPECT_EQ(contentOf(file), QByteArray("old\n"));
+    ASSERT_EQ(document.messages.shown.size(), 1U);
+    EXPECT_EQ(document.messages.shown[0].informativeText,
+              texts::localized("capture.export.not-written"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("kept.txt")});
+}
+
+TEST_F(SeriesExportFixture, aRefusedPermissionIsNamedAsTheReason)
+{
+    EXPECT_EQ(SeriesExport::reasonOfFailure(path(QStringLiteral("data.txt")),
+                                            QFileDevice::PermissionsError),
+              texts::localized("capture.export.not-allowed"));
+}
+
+TEST_F(SeriesExportFixture, everyTextOfTheExportIsWritten)
+{
+    for (const char *key : {"SaveAllMessage", "SaveSelectionMessage", "capture.export.failed",
+                            "capture.export.no-folder", "capture.export.is-folder",
+                            "capture.export.not-allowed", "capture.export.not-written"})
+        EXPECT_NE(texts::localized(key), QString::fromLatin1(key));
+}
