@@ -5,6 +5,15 @@
 #include <memory>
 #include <utility>
 
+namespace inlinedoubles {
+
+/// `count` doubles on the heap, all 0.0.
+[[nodiscard]] std::unique_ptr<double[]> zeros(std::size_t count);
+/// A copy on the heap of `count` doubles.
+[[nodiscard]] std::unique_ptr<double[]> copyOf(const double *doubles, std::size_t count);
+
+} // namespace inlinedoubles
+
 /// A fixed number of doubles, all 0.0 at first. Up to `InPlace` of them live in the object itself;
 /// only a larger number takes memory from the heap, so that work in two and three dimensions
 /// allocates nothing.
@@ -17,7 +26,7 @@ public:
         : m_count(count)
     {
         if (count > InPlace)
-            m_heap = std::make_unique<double[]>(count);
+            m_heap = inlinedoubles::zeros(count);
     }
 
     InlineDoubles(const InlineDoubles &other)
@@ -25,7 +34,7 @@ public:
         , m_place(other.m_place)
     {
         if (m_count > InPlace)
-            m_heap = copyOfHeap(other);
+            m_heap = inlinedoubles::copyOf(other.data(), other.m_count);
     }
 
     /// A source that was on the heap is left with a single 0.0.
@@ -43,7 +52,7 @@ public:
             return *this;
         std::unique_ptr<double[]> heap;
         if (other.m_count > InPlace)
-            heap = copyOfHeap(other);
+            heap = inlinedoubles::copyOf(other.data(), other.m_count);
         m_count = other.m_count;
         m_place = other.m_place;
         m_heap = std::move(heap);
@@ -80,14 +89,6 @@ public:
     [[nodiscard]] const double *end() const { return data() + m_count; }
 
 private:
-    static std::unique_ptr<double[]> copyOfHeap(const InlineDoubles &other)
-    {
-        auto heap = std::make_unique<double[]>(other.m_count);
-        for (std::size_t i = 0; i < other.m_count; ++i)
-            heap[i] = other.m_heap[i];
-        return heap;
-    }
-
     void takeHeap(InlineDoubles &other)
     {
         m_heap = std::move(other.m_heap);

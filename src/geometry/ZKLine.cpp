@@ -96,9 +96,9 @@ std::optional<ZKLine> ZKLine::initWithCoder(SequentialDecoder &coder)
 {
     const std::optional<ZKVector> origin = ZKVector::initWithCoder(coder);
     const std::optional<ZKVector> direction = ZKVector::initWithCoder(coder);
-    if (!origin || !direction || !isLine(*origin, *direction)) {
+    std::optional<ZKLine> result =
+        origin && direction ? lineWithOrigin(*origin, *direction) : std::nullopt;
+    if (!result)
         coder.fail();
-        return std::nullopt;
-    }
-    return ZKLine(*origin, *direction);
+    return result;
 }

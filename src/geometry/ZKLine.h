@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 
 class SequentialDecoder;
 class SequentialEncoder;
@@ -14,6 +15,13 @@ class SequentialEncoder;
 /// zero. The direction keeps the length with which it was given; every operation works for any.
 class ZKLine
 {
+protected:
+    /// Only the factories have it, so that a line cannot be made past their rules.
+    struct Key
+    {
+        explicit Key() = default;
+    };
+
 public:
     static constexpr std::string_view kClassName = "ZKLine";
 
@@ -30,6 +38,10 @@ public:
     [[nodiscard]] static std::optional<ZKLine> lineParaYaxisWithOrigin(const ZKVector &origin);
     [[nodiscard]] static std::optional<ZKLine> lineParaZaxisWithOrigin(const ZKVector &origin);
 
+    ZKLine(Key, const ZKVector &origin, const ZKVector &direction)
+        : m_origin(origin)
+        , m_direction(direction)
+    {}
     ZKLine(const ZKLine &) = default;
     ZKLine(ZKLine &&) = default;
     ZKLine &operator=(const ZKLine &) = default;
@@ -67,11 +79,6 @@ public:
     [[nodiscard]] static std::optional<ZKLine> initWithCoder(SequentialDecoder &coder);
 
 protected:
-    ZKLine(const ZKVector &origin, const ZKVector &direction)
-        : m_origin(origin)
-        , m_direction(direction)
-    {}
-
     [[nodiscard]] static bool isLine(const ZKVector &origin, const ZKVector &direction)
     {
         return origin.dimension() == direction.dimension() && origin.dimension() >= 2 &&
@@ -88,7 +95,7 @@ inline std::optional<ZKLine> ZKLine::lineWithOrigin(const ZKVector &origin,
 {
     if (!isLine(origin, direction))
         return std::nullopt;
-    return ZKLine(origin, direction);
+    return std::optional<ZKLine>(std::in_place, Key(), origin, direction);
 }
 
 inline std::optional<ZKLine> ZKLine::lineWithPointA(const ZKVector &a, const ZKVector &b)
@@ -105,12 +112,11 @@ inline std::optional<ZKVector> ZKLine::crossPointWith(const ZKLine &line) const
 {
     if (dimension() != 2 || line.dimension() != 2)
         return std::nullopt;
-    std::optional<ZKMatrix> system = ZKMatrix::matrixWithRows(2, 3);
-    system->setColumnVector(m_direction, 0);
-    system->setColumnVector(line.m_direction, 1);
-    system->setColumnVector(line.m_origin.subVector(m_origin), 2);
-    const std::optional<ZKVector> solution = system->solveEquation();
+    const ZKVector between = line.m_origin.subVector(m_origin);
+    const std::optional<ZKVector> solution =
+        ZKMatrix::solveEquationWithA11(m_direction.X(), line.m_direction.X(), between.X(),
+                                       m_direction.Y(), line.m_direction.Y(), between.Y());
     if (!solution)
         return std::nullopt;
-    return m_direction.mulScalar(solution->X()).addVectorSelf(m_origin);
+    return m_origin.addVector(m_direction.mulScalar(solution->X()));
 }

@@ -47,7 +47,7 @@ public:
 
 private:
     ZKLineSegment(const ZKVector &origin, const ZKVector &direction)
-        : ZKLine(origin, direction)
+        : ZKLine(Key(), origin, direction)
         , m_minValues(static_cast<std::size_t>(origin.dimension()))
         , m_maxValues(static_cast<std::size_t>(origin.dimension()))
     {}

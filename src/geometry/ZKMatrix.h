@@ -143,6 +143,10 @@ public:
     /// The solution of the linear system whose augmented matrix this is, by determinants; nothing
     /// unless cols is rows + 1 and the system's determinant is not exactly 0.0.
     [[nodiscard]] std::optional<ZKVector> solveEquation() const;
+    /// What `solveEquation` gives for the augmented matrix of two equations,
+    /// a11 x + a12 y = b1 and a21 x + a22 y = b2, without making the matrix.
+    [[nodiscard]] static std::optional<ZKVector>
+    solveEquationWithA11(double a11, double a12, double b1, double a21, double a22, double b2);
     [[nodiscard]] bool isZero() const;
     /// Every element below the tolerance, without an absolute value: a negative element passes.
     [[nodiscard]] bool isZeroWithin(double tolerance) const;
@@ -272,14 +276,16 @@ inline std::optional<ZKVector> ZKMatrix::mulVector(const ZKVector &vector) const
 {
     if (vector.dimension() != m_cols)
         return std::nullopt;
+    const double *a = buffer();
+    const double *v = vector.buffer();
+    if (m_rows == 2 && m_cols == 2)
+        return ZKVector::vectorWithX(0.0 + a[0] * v[0] + a[1] * v[1],
+                                     0.0 + a[2] * v[0] + a[3] * v[1]);
     std::optional<ZKVector> result = ZKVector::vectorWithDimension(m_rows);
-    if (!result)
-        return std::nullopt;
-    const double *components = vector.buffer();
-    for (int i = 0; i < m_rows; ++i) {
+    for (int i = 0; result && i < m_rows; ++i) {
         double sum = 0.0;
         for (int j = 0; j < m_cols; ++j)
-            sum += at(i, j) * components[j];
+            sum += at(i, j) * v[j];
         result->setComponent(sum, i);
     }
     return result;
@@ -297,14 +303,20 @@ inline double ZKMatrix::determinant() const
     return determinantByElimination();
 }
 
+inline std::optional<ZKVector> ZKMatrix::solveEquationWithA11(double a11, double a12, double b1,
+                                                              double a21, double a22, double b2)
+{
+    const double systemDeterminant = determinant2(a11, a12, a21, a22);
+    if (systemDeterminant == 0.0)
+        return std::nullopt;
+    return ZKVector::vectorWithX(determinant2(b1, a12, b2, a22) / systemDeterminant,
+                                 determinant2(a11, b1, a21, b2) / systemDeterminant);
+}
+
 inline std::optional<ZKVector> ZKMatrix::solveEquation() const
 {
     if (m_rows != 2 || m_cols != 3)
         return solveByDeterminants();
     const double *a = buffer();
-    const double determinantOfSystem = determinant2(a[0], a[1], a[3], a[4]);
-    if (determinantOfSystem == 0.0)
-        return std::nullopt;
-    return ZKVector::vectorWithX(determinant2(a[2], a[1], a[5], a[4]) / determinantOfSystem,
-                                 determinant2(a[0], a[2], a[3], a[5]) / determinantOfSystem);
+    return solveEquationWithA11(a[0], a[1], a[2], a[3], a[4], a[5]);
 }
