@@ -1,8 +1,14 @@
 #include "conversion/ZKConvCoordinateAffine.h"
 
+#include "conversion/PlaneArithmetic.h"
 #include "geometry/ZKLine.h"
 
 #include <array>
+
+using planearithmetic::difference;
+using planearithmetic::planeVector;
+using planearithmetic::PlaneVector;
+using planearithmetic::product;
 
 namespace {
 
@@ -28,6 +34,13 @@ std::optional<ZKVector> graphOrigin(const ZKVector &onAxisX, const ZKVector &uni
     if (!xIsZero || !yIsZero)
         return std::nullopt;
     return xIsZero->crossPointWith(*yIsZero);
+}
+
+/// A 2 x 2 matrix times a vector of the plane.
+PlaneVector planeProduct(const ZKMatrix &matrix, PlaneVector vector)
+{
+    const double *a = matrix.buffer();
+    return {product({a[0], a[1]}, vector), product({a[2], a[3]}, vector)};
 }
 
 bool areEqual(const std::optional<ZKMatrix> &a, const std::optional<ZKMatrix> &b, double within)
@@ -111,6 +124,12 @@ ZKConvCoordinateAffine::convertToCartesian(const ZKVector &graphValues) const
 {
     if (!isBuilt())
         return std::nullopt;
+    if (m_origin->dimension() == 2 && graphValues.dimension() == 2) {
+        const PlaneVector values{log10OfComponent(graphValues.X(), 0),
+                                 log10OfComponent(graphValues.Y(), 1)};
+        const PlaneVector point = planeProduct(*m_xferMatrixToCartesian, values);
+        return ZKVector::vectorWithX(point.x + m_origin->X(), point.y + m_origin->Y());
+    }
     auto point = m_xferMatrixToCartesian->mulVector(log10Conversion(graphValues));
     if (point)
         point->addVectorSelf(*m_origin);
@@ -122,6 +141,13 @@ ZKConvCoordinateAffine::convertFromCartesian(const ZKVector &picturePoint) const
 {
     if (!isBuilt())
         return std::nullopt;
+    if (m_origin->dimension() == 2 && picturePoint.dimension() == 2) {
+        const PlaneVector values =
+            planeProduct(*m_xferMatrixFromCartesian,
+                         difference(planeVector(picturePoint), planeVector(*m_origin)));
+        return ZKVector::vectorWithX(power10OfComponent(values.x, 0),
+                                     power10OfComponent(values.y, 1));
+    }
     const auto values = m_xferMatrixFromCartesian->mulVector(picturePoint.subVector(*m_origin));
     if (!values)
         return std::nullopt;

@@ -1,21 +1,31 @@
 #include "conversion/ZKConvCoordinateKeystone.h"
 
+#include "conversion/PlaneArithmetic.h"
+
 #include <array>
+
+using planearithmetic::crossPoint;
+using planearithmetic::difference;
+using planearithmetic::planeLine;
+using planearithmetic::PlaneLine;
+using planearithmetic::planeVector;
+using planearithmetic::PlaneVector;
+using planearithmetic::pointAlong;
+using planearithmetic::product;
 
 namespace {
 
-/// The position of `point` along `unit`, counted from `origin` in lengths of `unit`.
-double unitsAlong(const ZKVector &unit, const ZKVector &origin, const ZKVector &point)
+/// The direction at `point` of the lines that meet in `cross`, or that are parallel to `unit`.
+PlaneVector directionAt(PlaneVector point, bool parallel, const std::optional<ZKVector> &unit,
+                        const std::optional<ZKVector> &cross)
 {
-    return point.subVector(origin).product(unit) / unit.product(unit);
+    return parallel ? planeVector(*unit) : difference(planeVector(*cross), point);
 }
 
-/// The line through `point` and the point where all such lines meet or, where they are parallel,
-/// along `unit`; nothing in the meeting point itself.
-std::optional<ZKLine> lineThrough(const ZKVector &point, bool parallel, const ZKVector &unit,
-                                  const std::optional<ZKVector> &cross)
+/// The position of `point` along `unit`, counted from `origin` in lengths of `unit`.
+double unitsAlong(PlaneVector unit, PlaneVector origin, PlaneVector point)
 {
-    return parallel ? ZKLine::lineWithOrigin(point, unit) : ZKLine::lineWithPointA(point, *cross);
+    return product(difference(point, origin), unit) / product(unit, unit);
 }
 
 /// Whether the crossing points are both missing, or both there and equal within the tolerance.
@@ -104,31 +114,37 @@ ZKConvCoordinateKeystone::convertToCartesian(const ZKVector &graphValues) const
     if (!isPrepared())
         return std::nullopt;
     const ZKVector units = log10Conversion(graphValues).subVectorSelf(*m_originValue);
-    const ZKVector onAxisX = m_unitX->mulScalar(units.X()).addVectorSelf(*m_origin);
-    const ZKVector onAxisY = m_unitY->mulScalar(units.Y()).addVectorSelf(*m_origin);
-    const auto constantY = lineThrough(onAxisY, m_paraX, *m_unitX, m_crossX);
-    const auto constantX = lineThrough(onAxisX, m_paraY, *m_unitY, m_crossY);
-    if (!constantY || !constantX)
+    const PlaneVector origin = planeVector(*m_origin);
+    const PlaneVector onAxisX = pointAlong(origin, planeVector(*m_unitX), units.X());
+    const PlaneVector onAxisY = pointAlong(origin, planeVector(*m_unitY), units.Y());
+    const PlaneLine constantY{onAxisY, directionAt(onAxisY, m_paraX, m_unitX, m_crossX)};
+    const PlaneLine constantX{onAxisX, directionAt(onAxisX, m_paraY, m_unitY, m_crossY)};
+    if (constantY.direction.isZero() || constantX.direction.isZero())
         return std::nullopt;
-    return constantY->crossPointWith(*constantX);
+    const auto point = crossPoint(constantY, constantX);
+    if (!point)
+        return std::nullopt;
+    return ZKVector::vectorWithX(point->x, point->y);
 }
 
 std::optional<ZKVector>
 ZKConvCoordinateKeystone::convertFromCartesian(const ZKVector &picturePoint) const
 {
-    if (!isPrepared())
+    if (!isPrepared() || picturePoint.dimension() != 2)
         return std::nullopt;
-    const auto constantX = ZKLine::lineWithOrigin(picturePoint, directionY(picturePoint));
-    const auto constantY = ZKLine::lineWithOrigin(picturePoint, directionX(picturePoint));
-    if (!constantX || !constantY)
+    const PlaneVector point = planeVector(picturePoint);
+    const PlaneLine constantY{point, directionAt(point, m_paraX, m_unitX, m_crossX)};
+    const PlaneLine constantX{point, directionAt(point, m_paraY, m_unitY, m_crossY)};
+    if (constantY.direction.isZero() || constantX.direction.isZero())
         return std::nullopt;
-    const auto onAxisX = m_axisX->crossPointWith(*constantX);
-    const auto onAxisY = m_axisY->crossPointWith(*constantY);
+    const auto onAxisX = crossPoint(planeLine(*m_axisX), constantX);
+    const auto onAxisY = crossPoint(planeLine(*m_axisY), constantY);
     if (!onAxisX || !onAxisY)
         return std::nullopt;
-    ZKVector values = ZKVector::vectorWithX(unitsAlong(*m_unitX, *m_origin, *onAxisX),
-                                            unitsAlong(*m_unitY, *m_origin, *onAxisY));
-    return power10Conversion(values.addVectorSelf(*m_originValue));
+    const PlaneVector origin = planeVector(*m_origin);
+    const double x = unitsAlong(planeVector(*m_unitX), origin, *onAxisX) + m_originValue->X();
+    const double y = unitsAlong(planeVector(*m_unitY), origin, *onAxisY) + m_originValue->Y();
+    return ZKVector::vectorWithX(power10OfComponent(x, 0), power10OfComponent(y, 1));
 }
 
 ZKVector ZKConvCoordinateKeystone::directionX(const ZKVector &picturePoint) const
