@@ -48,8 +48,8 @@ public:
     CursorGuide(const CursorGuideSurroundings &surroundings, const CursorGuideOutlets &outlets,
                 QObject *parent = nullptr);
 
-    /// To be called once when everything around is wired: reads the controls.
-    void wakeUp();
+    /// To be called once everything around is wired: takes the state of the controls over.
+    void awakeFromNib();
 
     [[nodiscard]] std::shared_ptr<const ZKConvCoordinate> converter() const { return m_converter; }
     /// Null takes the converter away.

@@ -5,6 +5,7 @@
 
 #include <QTableView>
 
+class DataTableHeader;
 class DataTableModel;
 
 /// The table of captured points: a column for each series, a row for each point.
@@ -48,7 +49,7 @@ public:
     /// The column widths.
     [[nodiscard]] ArchiveDictionary dataForSave() const;
     /// False without a dictionary.
-    bool loadFromData(const ArchiveDictionary *data);
+    bool loadFromData(const ArchiveDictionary *dictionary);
 
 public Q_SLOTS:
     /// Selects all series that hold points.
@@ -64,6 +65,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
 
@@ -79,6 +82,7 @@ private:
     void describeSelection();
 
     DataTableModel *m_model;
+    DataTableHeader *m_header;
     const TableSource *m_source = nullptr;
     IndexSet m_selectedColumns;
     int m_lastClickedCol = -1;

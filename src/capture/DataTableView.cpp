@@ -1,0 +1,335 @@
+#include "capture/DataTableView.h"
+
+#include "capture/DataTableHeader.h"
+#include "capture/DataTableModel.h"
+#include "platform/Texts.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr const char *columnWidthsKey = "Column Widths";
+constexpr qreal cellFontSize = 10;
+constexpr int minimumColumnWidth = 24;
+/// Left and right of the text that fits a column at first.
+constexpr int cellPadding = 12;
+
+/// Paints the cells of the selected columns as selected.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    explicit CellDelegate(DataTableView *table)
+        : QStyledItemDelegate(table)
+        , m_table(*table)
+    {}
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state.setFlag(QStyle::State_Selected, m_table.isColumnSelected(index.column()));
+        // Cells have no focus, columns do.
+        option->state.setFlag(QStyle::State_HasFocus, false);
+    }
+
+private:
+    const DataTableView &m_table;
+};
+
+/// The integer value of a number object, 0 for anything else.
+int integerValue(const ArchiveValue &number)
+{
+    ArchiveDictionary box;
+    box.set("number", number);
+    return box.intForKey("number");
+}
+
+} // namespace
+
+DataTableView::DataTableView(QWidget *parent)
+    : QTableView(parent)
+    , m_model(new DataTableModel(this))
+    , m_header(new DataTableHeader(this))
+{
+    QFont font = QApplication::font("QMenu");
+    font.setPointSizeF(cellFontSize);
+    setFont(font);
+    setModel(m_model);
+    setItemDelegate(new CellDelegate(this));
+    // The selection is our own; the platform's, of cells, stays empty.
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setUpHeaders();
+    setAccessibleName(texts::localized("capture.table.name"));
+    describeSelection();
+}
+
+void DataTableView::setUpHeaders()
+{
+    setHorizontalHeader(m_header);
+    const int width = fontMetrics().horizontalAdvance(QStringLiteral("(-0.123, -1.23e+03)"));
+    m_header->setMinimumSectionSize(minimumColumnWidth);
+    m_header->setDefaultSectionSize(width + cellPadding);
+    m_header->setMinimumHeight(m_header->sizeHint().height());
+    connect(m_header, &DataTableHeader::columnPressed, this, &DataTableView::pressColumn);
+
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->setHighlightSections(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (auto *corner = findChild<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly))
+        corner->setToolTip(texts::localized("capture.table.selectAllTip"));
+}
+
+void DataTableView::setDataSource(const TableSource &source, const CapturePrefs &prefs)
+{
+    m_source = &source;
+    m_model->setSource(source);
+    m_model->setPrefs(prefs);
+}
+
+void DataTableView::selectColumnIndexes(const IndexSet &columns, bool byExtendingSelection)
+{
+    IndexSet valid = m_source == nullptr ? IndexSet() : m_source->validSeriesWithin(columns);
+    if (byExtendingSelection)
+        valid.insert(m_selectedColumns.begin(), m_selectedColumns.end());
+    setSelectedColumns(std::move(valid));
+}
+
+void DataTableView::deselectAll() { setSelectedColumns({}); }
+
+void DataTableView::setSelectedColumns(IndexSet columns)
+{
+    if (columns == m_selectedColumns)
+        return;
+    m_selectedColumns = std::move(columns);
+    m_header->setSelectedColumns(m_selectedColumns);
+    viewport()->update();
+    describeSelection();
+    Q_EMIT selectedColumnsChanged();
+}
+
+/// Says the selection to those who do not see it.
+void DataTableView::describeSelection()
+{
+    QString text = texts::localized(m_selectedColumns.empty() ? "capture.table.nothingSelected"
+                                                              : "capture.table.selectedSeries");
+    QString separator = QStringLiteral(" ");
+    for (const int column : m_selectedColumns) {
+        text += separator + QString::fromStdString(std::to_string(column + 1));
+        separator = QStringLiteral(", ");
+    }
+    setAccessibleDescription(text);
+}
+
+void DataTableView::selectAll()
+{
+    selectColumnIndexes(m_source == nullptr ? IndexSet() : m_source->validSeries(), false);
+    m_lastClickedCol = -1;
+}
+
+bool DataTableView::pressColumn(int column, Qt::KeyboardModifiers modifiers)
+{
+    const bool shift = modifiers.testFlag(Qt::ShiftModifier);
+    const bool command = modifiers.testFlag(Qt::ControlModifier);
+    if (m_source == nullptr || !m_source->isValidSeries(column)) {
+        if (shift || command)
+            return true;
+        deselectAll();
+    }
+    if (column < 0) {
+        m_lastClickedCol = -1;
+        return false;
+    }
+    if (shift && m_lastClickedCol >= 0)
+        selectColumnIndexes(m_source->validSeriesBetween(m_lastClickedCol, column), true);
+    else
+        selectColumnIndexes({column}, command && !shift);
+    m_lastClickedCol = column;
+    setCurrentColumn(column);
+    return true;
+}
+
+void DataTableView::setCurrentColumn(int column)
+{
+    m_currentColumn = column;
+    m_header->setFocusedColumn(hasFocus() ? column : -1);
+}
+
+void DataTableView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    if (!pressColumn(columnAt(event->position().toPoint().x()), event->modifiers()))
+        QTableView::mousePressEvent(event);
+}
+
+void DataTableView::mouseDoubleClickEvent(QMouseEvent *event) { mousePressEvent(event); }
+
+// What follows a press belongs to the press: no drag selects cells.
+void DataTableView::mouseMoveEvent(QMouseEvent *event) { event->accept(); }
+
+void DataTableView::mouseReleaseEvent(QMouseEvent *event) { event->accept(); }
+
+void DataTableView::setSelection(const QRect & /*rect*/,
+                                 QItemSelectionModel::SelectionFlags /*command*/)
+{}
+
+void DataTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::SelectAll)) {
+        selectAll();
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Left:
+        moveCurrentColumn(-1, event->modifiers());
+        return;
+    case Qt::Key_Right:
+        moveCurrentColumn(1, event->modifiers());
+        return;
+    case Qt::Key_Space:
+        if (m_currentColumn >= 0)
+            pressColumn(m_currentColumn, event->modifiers());
+        return;
+    default:
+        if (!scrollByKey(event->key()))
+            event->ignore();
+    }
+}
+
+/// Goes to the next series that holds points and selects it as a click would; with the command key
+/// it only goes there.
+void DataTableView::moveCurrentColumn(int step, Qt::KeyboardModifiers modifiers)
+{
+    if (m_source == nullptr)
+        return;
+    int column = m_currentColumn < 0 && step < 0 ? m_model->columnCount() : m_currentColumn;
+    do {
+        column += step;
+        if (column < 0 || column >= m_model->columnCount())
+            return;
+    } while (!m_source->isValidSeries(column));
+    if (modifiers.testFlag(Qt::ControlModifier))
+        setCurrentColumn(column);
+    else
+        pressColumn(column, modifiers);
+    scrollColumnToVisible(column);
+}
+
+bool DataTableView::scrollByKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+        return true;
+    case Qt::Key_Down:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_PageUp:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepSub);
+        return true;
+    case Qt::Key_PageDown:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        return true;
+    case Qt::Key_Home:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
+        return true;
+    case Qt::Key_End:
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void DataTableView::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    m_header->setFocusedColumn(m_currentColumn);
+}
+
+void DataTableView::focusOutEvent(QFocusEvent *event)
+{
+    QTableView::focusOutEvent(event);
+    m_header->setFocusedColumn(-1);
+}
+
+void DataTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (m_model->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(
+        viewport()->rect().adjusted(cellPadding, cellPadding, -cellPadding, -cellPadding),
+        Qt::AlignCenter | Qt::TextWordWrap, texts::localized("capture.table.empty"));
+}
+
+void DataTableView::noteNumberOfRowsChanged()
+{
+    m_model->noteNumberOfRowsChanged();
+    viewport()->update();
+}
+
+void DataTableView::reloadData() { m_model->reloadData(); }
+
+void DataTableView::reloadMarkers() { m_model->reloadMarkers(); }
+
+void DataTableView::scrollColumnToVisible(int column)
+{
+    if (column < 0 || column >= m_model->columnCount())
+        return;
+    executeDelayedItemsLayout();
+    QScrollBar *bar = horizontalScrollBar();
+    const int left = m_header->sectionPosition(column);
+    const int right = left + m_header->sectionSize(column);
+    // A column wider than the table shows its left part.
+    bar->setValue(std::min(std::max(bar->value(), right - viewport()->width()), left));
+}
+
+ArchiveDictionary DataTableView::dataForSave() const
+{
+    ArchiveArray widths;
+    for (int visual = 0; visual < m_header->count(); ++visual) {
+        const int width = m_header->sectionSize(m_header->logicalIndex(visual));
+        widths.push_back(ArchiveValue{std::int64_t{width}});
+    }
+    ArchiveDictionary dictionary;
+    dictionary.set(columnWidthsKey, ArchiveValue{std::move(widths)});
+    return dictionary;
+}
+
+bool DataTableView::loadFromData(const ArchiveDictionary *dictionary)
+{
+    if (dictionary == nullptr)
+        return false;
+    const ArchiveArray *widths = dictionary->arrayForKey(columnWidthsKey);
+    const std::size_t stored = widths == nullptr ? 0 : widths->size();
+    for (int visual = 0; visual < m_header->count(); ++visual) {
+        const auto i = static_cast<std::size_t>(visual);
+        const int width = i < stored ? integerValue((*widths)[i]) : 0;
+        const int atLeast = std::max(width, m_header->minimumSectionSize());
+        m_header->resizeSection(m_header->logicalIndex(visual),
+                                std::min(atLeast, m_header->maximumSectionSize()));
+    }
+    return true;
+}
