@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class ImageViewAxes;
 class ImageViewDocument;
@@ -117,7 +118,7 @@ public:
 
     [[nodiscard]] ArchiveDictionary dataForSave() const;
     /// False for no data. A damaged picture counts as none.
-    bool loadFromData(const ArchiveDictionary *data);
+    bool loadFromData(const ArchiveDictionary *stored);
 
     /// The page of the action tab was changed.
     void settingModeChanged();
@@ -171,7 +172,7 @@ private:
     void mouseDragged(FloatPoint windowPoint);
     void mouseUp();
     void dragAnchors(FloatPoint windowPoint);
-    void endAnchorDrag(FloatPoint windowPoint);
+    void endAnchorDrag(FloatPoint viewPosition);
 
     void drawRect(QPainter &painter, const QRect &dirtyRect);
     void drawHint(QPainter &painter) const;
@@ -204,6 +205,7 @@ private:
 
     bool m_leftButtonIsDown = false; ///< a press that counted, until its release
     bool m_trackingAnchorDrag = false;
+    std::vector<std::unique_ptr<QKeyEvent>> m_keysDuringDrag;
     bool m_spaceIsHeld = false;
     bool m_windowWasActive = false;
     std::optional<FloatPoint> m_hover;

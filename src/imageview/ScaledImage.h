@@ -26,7 +26,7 @@ public:
 
 private:
     void prepare(const QRect &part, double pixelsPerPoint);
-    [[nodiscard]] QImage rendered(const QRect &part) const;
+    [[nodiscard]] QImage rendered(const QRect &part, double pixelsPerPoint) const;
 
     Picture m_picture;
     float m_scale;

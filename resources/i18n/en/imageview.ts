@@ -1,0 +1,92 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="ErrorOccurred">
+        <source>Something went wrong</source>
+        <extracomment>Title of a message that explains why a picture cannot be opened or points cannot be taken.</extracomment>
+        <translation>Something went wrong</translation>
+    </message>
+    <message id="CantMakeConverter">
+        <source>The axis settings do not fit together, so points cannot be turned into values. Go back to the axis settings and check that the anchors do not coincide and that the axis values differ.</source>
+        <extracomment>Explains why the digitizing page cannot take points.</extracomment>
+        <translation>The axis settings do not fit together, so points cannot be turned into values. Go back to the axis settings and check that the anchors do not coincide and that the axis values differ.</translation>
+    </message>
+    <message id="imageview.error.missing">
+        <source>“%1” could not be found. It may have been moved, renamed or deleted.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” could not be found. It may have been moved, renamed or deleted.</translation>
+    </message>
+    <message id="imageview.error.folder">
+        <source>“%1” is a folder. Choose a picture file in it.</source>
+        <extracomment>%1 is the name of the folder.</extracomment>
+        <translation>“%1” is a folder. Choose a picture file in it.</translation>
+    </message>
+    <message id="imageview.error.unreadable">
+        <source>“%1” cannot be read. Check that you have the permission to open it.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” cannot be read. Check that you have the permission to open it.</translation>
+    </message>
+    <message id="imageview.error.empty">
+        <source>“%1” is empty. Get the file once more, then try again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is empty. Get the file once more, then try again.</translation>
+    </message>
+    <message id="imageview.error.not-a-picture">
+        <source>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP or SVG file.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP or SVG file.</translation>
+    </message>
+    <message id="imageview.error.damaged">
+        <source>“%1” is damaged or incomplete. Get the file once more, or save it anew in the program that made it.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is damaged or incomplete. Get the file once more, or save it anew in the program that made it.</translation>
+    </message>
+    <message id="imageview.error.too-large">
+        <source>“%1” needs more memory than is free (%2 × %3 pixels). Close other programs, or save the picture with fewer pixels.</source>
+        <extracomment>%1 is the name of the file, %2 its width and %3 its height.</extracomment>
+        <translation>“%1” needs more memory than is free (%2 × %3 pixels). Close other programs, or save the picture with fewer pixels.</translation>
+    </message>
+    <message id="imageview.error.cancelled">
+        <source>“%1” was not opened.</source>
+        <extracomment>%1 is the name of the file; the user has stopped its reading.</extracomment>
+        <translation>“%1” was not opened.</translation>
+    </message>
+    <message id="imageview.reading.label">
+        <source>Opening “%1” …</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>Opening “%1” …</translation>
+    </message>
+    <message id="imageview.reading.cancel-tip">
+        <source>Stop opening this file and keep the present picture</source>
+        <extracomment>Tooltip of the button that stops the reading of a large file.</extracomment>
+        <translation>Stop opening this file and keep the present picture</translation>
+    </message>
+    <message id="imageview.reading.progress-name">
+        <source>Reading progress</source>
+        <extracomment>Name of the progress bar for screen readers.</extracomment>
+        <translation>Reading progress</translation>
+    </message>
+    <message id="imageview.view.name">
+        <source>Picture of the chart</source>
+        <extracomment>Name of the picture view for screen readers.</extracomment>
+        <translation>Picture of the chart</translation>
+    </message>
+    <message id="imageview.view.empty-hint">
+        <source>Open a picture of a chart to begin</source>
+        <extracomment>Shown in the middle of the picture area while there is no picture.</extracomment>
+        <translation>Open a picture of a chart to begin</translation>
+    </message>
+    <message id="imageview.zoom-slider.name">
+        <source>Zoom</source>
+        <extracomment>Name of the zoom slider for screen readers.</extracomment>
+        <translation>Zoom</translation>
+    </message>
+    <message id="imageview.zoom-slider.tip">
+        <source>Zoom the picture</source>
+        <extracomment>Tooltip of the zoom slider.</extracomment>
+        <translation>Zoom the picture</translation>
+    </message>
+</context>
+</TS>

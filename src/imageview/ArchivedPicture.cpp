@@ -1,0 +1,96 @@
+#include "imageview/ArchivedPicture.h"
+
+#include "imageview/PictureMemory.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// The text of the PNG file that tells the size in points: width, blank, height.
+const QString sizeKey = QStringLiteral("Curvegrab-Size");
+
+/// Quick rather than small: charts compress well at any level.
+constexpr int compression = 30;
+
+QString sizeText(FloatSize size)
+{
+    std::array<char, 64> text{};
+    char *end = std::to_chars(text.data(), text.data() + 31, size.width).ptr;
+    *end++ = ' ';
+    end = std::to_chars(end, text.data() + text.size(), size.height).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
+std::optional<FloatSize> sizeFromText(const QString &text)
+{
+    const QByteArray bytes = text.toLatin1();
+    const char *end = bytes.constData() + bytes.size();
+    FloatSize size;
+    const auto [afterWidth, widthError] = std::from_chars(bytes.constData(), end, size.width);
+    if (widthError != std::errc() || afterWidth == end)
+        return {};
+    const auto [afterHeight, heightError] = std::from_chars(afterWidth + 1, end, size.height);
+    if (heightError != std::errc())
+        return {};
+    return size;
+}
+
+} // namespace
+
+std::shared_ptr<const ArchivedPicture> ArchivedPicture::archived(const Picture &picture)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "png");
+    writer.setCompression(compression);
+    writer.setText(sizeKey, sizeText(picture.size()));
+    if (!writer.write(picture.pixels()))
+        return nullptr;
+    const auto *begin = reinterpret_cast<const std::byte *>(bytes.constData());
+    return std::make_shared<const ArchivedPicture>(
+        std::make_shared<const std::vector<std::byte>>(begin, begin + bytes.size()));
+}
+
+std::shared_ptr<const ArchivedPicture> ArchivedPicture::initWithCoder(SequentialDecoder &coder)
+{
+    ArchivedBytes bytes = coder.decodeBytes();
+    if (coder.failed() || bytes == nullptr)
+        return nullptr;
+    return std::make_shared<const ArchivedPicture>(std::move(bytes));
+}
+
+ArchivedPicture::ArchivedPicture(ArchivedBytes bytes)
+    : m_bytes(std::move(bytes))
+{}
+
+void ArchivedPicture::encodeWithCoder(SequentialEncoder &coder) const
+{
+    coder.encodeBytes(m_bytes);
+}
+
+std::optional<Picture> ArchivedPicture::picture() const
+{
+    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(m_bytes->data()),
+                                               static_cast<qsizetype>(m_bytes->size()));
+    QBuffer buffer(&bytes);
+    QImageReader::setAllocationLimit(0);
+    QImageReader reader(&buffer, "png");
+    if (!picturememory::fits(reader, picturememory::available()))
+        return {};
+    QImage pixels = reader.read();
+    if (pixels.isNull())
+        return {};
+    const FloatSize pixelSize{static_cast<float>(pixels.width()),
+                              static_cast<float>(pixels.height())};
+    const std::optional<FloatSize> told = sizeFromText(pixels.text(sizeKey));
+    const bool agrees = told && std::ceil(told->width) == pixelSize.width &&
+                        std::ceil(told->height) == pixelSize.height;
+    return Picture::fromPixels(std::move(pixels), agrees ? *told : pixelSize);
+}

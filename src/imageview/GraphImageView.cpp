@@ -1,0 +1,279 @@
+#include "imageview/GraphImageView.h"
+
+#include "imageview/ImageViewSurroundings.h"
+#include "imageview/PictureOpener.h"
+#include "imageview/PictureScrollArea.h"
+#include "imageview/ZoomSlider.h"
+#include "platform/Desktop.h"
+#include "platform/GeometryText.h"
+#include "platform/Sheets.h"
+#include "platform/Texts.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+bool isTurnedAside(float rotation) { return rotation != 0 && rotation != 180; }
+
+Sheet openingFailed(const PictureReading &reading, const QString &path)
+{
+    return {texts::localized("ErrorOccurred"), pictureproblem::explanation(reading, path),
+            texts::localized("OK"), QString()};
+}
+
+} // namespace
+
+GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
+    : m_scrollArea(scrollArea)
+    , m_opener(std::make_unique<PictureOpener>(scrollArea))
+{
+    setObjectName(QStringLiteral("graphView"));
+    setAccessibleName(texts::localized("imageview.view.name"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoMousePropagation);
+    m_mouseCheckTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_mouseCheckTimer, &QTimer::timeout, this, &GraphImageView::mouseCheckRoutine);
+    connect(&scrollArea, &PictureScrollArea::zoomRequested, this, &GraphImageView::zoomAbout);
+    scrollArea.setDocumentView(this);
+}
+
+GraphImageView::~GraphImageView() = default;
+
+void GraphImageView::connectOutlets(const ImageViewOutlets &outlets)
+{
+    m_outlets = outlets;
+    connect(outlets.rotateCWButton, &QAbstractButton::clicked, this,
+            &GraphImageView::imageRotateCw);
+    connect(outlets.rotateCCWButton, &QAbstractButton::clicked, this,
+            &GraphImageView::imageRotateCcw);
+    connect(outlets.fitWidthButton, &QAbstractButton::clicked, this,
+            &GraphImageView::zoomToFitWidth);
+    connect(outlets.fitHeightButton, &QAbstractButton::clicked, this,
+            &GraphImageView::zoomToFitHeight);
+    connect(outlets.magnificationSlider, &ZoomSlider::moved, this,
+            &GraphImageView::imageScaleChanged);
+}
+
+void GraphImageView::awakeFromNib()
+{
+    m_imageScale = 0.1F;
+    m_rotation = 0;
+    m_originalImage.reset();
+    m_scaledImage.reset();
+    m_mouseDownMode = 0;
+    m_justMouseDown = false;
+    m_inDragging = false;
+    setButtonStates();
+}
+
+bool GraphImageView::hasImage() const { return m_originalImage.has_value(); }
+
+FloatSize GraphImageView::imageSize() const
+{
+    return m_originalImage ? m_originalImage->size() : FloatSize{};
+}
+
+FloatSize GraphImageView::scaledImageSize() const
+{
+    return m_scaledImage ? m_scaledImage->size() : FloatSize{};
+}
+
+FloatSize GraphImageView::imageSizeWithRotate() const
+{
+    const FloatSize size = imageSize();
+    return isTurnedAside(m_rotation) ? FloatSize{size.height, size.width} : size;
+}
+
+bool GraphImageView::openImageFile(const QUrl &url)
+{
+    if (!url.isLocalFile())
+        return false;
+    const QString path = url.toLocalFile();
+    const auto install = [this, path](const PictureReading &reading) {
+        if (reading.picture)
+            return replaceImageWith(reading.picture);
+        if (reading.problem != PictureProblem::Cancelled)
+            m_outlets.document->sheets().present(openingFailed(reading, path), {});
+        return false;
+    };
+    const std::optional<PictureReading> reading = m_opener->open(
+        path, [this, install](const PictureReading &later) { Q_EMIT fileOpened(install(later)); });
+    return reading ? install(*reading) : true;
+}
+
+bool GraphImageView::replaceImageWithImageRep(const QImage &rep)
+{
+    std::optional<Picture> image = Picture::fromImageRep(rep);
+    if (!image)
+        return false;
+    return replaceImageWith(std::move(image));
+}
+
+bool GraphImageView::replaceImageWith(std::optional<Picture> image)
+{
+    const bool taken = image.has_value();
+    if (taken) {
+        m_originalImage = std::move(image);
+        m_archivedImage.reset();
+        m_rotation = 0;
+        const float screenWidth = m_outlets.document->desktop().mainScreenSize().width;
+        float scale = (screenWidth - marginWidth - drawerWidth) / m_originalImage->size().width;
+        if (scale > 1)
+            scale = 1;
+        m_outlets.currentAxes->resetPositionFromImageView();
+        rescaleImageWith(scale, true);
+        m_outlets.document->zoomWindow();
+    }
+    setButtonStates();
+    m_outlets.document->removeUndoOfDataSeries();
+    m_outlets.document->removeUndoOfCurrentAxes();
+    m_outlets.infoPanel->updateImageInfo();
+    if (taken)
+        Q_EMIT pictureChanged();
+    return taken;
+}
+
+void GraphImageView::imageRotateCw()
+{
+    if (!m_originalImage)
+        return;
+    m_rotation -= 90;
+    if (m_rotation < 0)
+        m_rotation += 360;
+    imageRotated();
+}
+
+void GraphImageView::imageRotateCcw()
+{
+    if (!m_originalImage)
+        return;
+    m_rotation += 90;
+    if (m_rotation >= 360)
+        m_rotation -= 360;
+    imageRotated();
+}
+
+void GraphImageView::imageRotated()
+{
+    makeScaledImage();
+    m_outlets.currentAxes->resetPosition();
+    m_outlets.infoPanel->updateImageInfo();
+    setNeedsDisplay();
+    m_outlets.document->updateChangeCount(ChangeKind::Done);
+    Q_EMIT pictureChanged();
+}
+
+void GraphImageView::makeScaledImage()
+{
+    if (!m_originalImage)
+        return;
+    m_scaledImage.emplace(*m_originalImage, m_imageScale, m_rotation);
+    m_scrollArea.setDocumentSize(m_scaledImage->size());
+}
+
+void GraphImageView::setButtonStates()
+{
+    const bool image = hasImage();
+    const bool canRotate = image && m_outlets.document->isInAxisSettingMode();
+    m_outlets.rotateCWButton->setEnabled(canRotate);
+    m_outlets.rotateCCWButton->setEnabled(canRotate);
+    m_outlets.fitWidthButton->setEnabled(image);
+    m_outlets.fitHeightButton->setEnabled(image);
+    m_outlets.magnificationSlider->setEnabled(image);
+    // What goes is hidden first: the two have one place.
+    if (image) {
+        m_outlets.noImageTab->hide();
+        m_outlets.actionSelectionTab->show();
+        startMouseChecking();
+    } else {
+        m_outlets.actionSelectionTab->hide();
+        m_outlets.noImageTab->show();
+        stopMouseChecking();
+    }
+}
+
+ArchiveDictionary GraphImageView::dataForSave() const
+{
+    ArchiveDictionary saved;
+    saved.set("Scrolled Position", {geometrytext::stringFromPoint(m_scrollArea.visibleOrigin())});
+    saved.set("Image Scale", {m_imageScale});
+    saved.set("Rotation Angle", {m_rotation});
+    if (m_originalImage && m_archivedImage == nullptr)
+        m_archivedImage = ArchivedPicture::archived(*m_originalImage);
+    if (m_archivedImage != nullptr)
+        saved.set("Original Image", {std::shared_ptr<const Archivable>(m_archivedImage)});
+    return saved;
+}
+
+bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
+{
+    if (stored == nullptr)
+        return false;
+    m_imageScale = stored->floatForKey("Image Scale");
+    if (!std::isfinite(m_imageScale) || m_imageScale <= 0)
+        m_imageScale = 1; // no picture can be shown at such a scale
+    m_outlets.magnificationSlider->setDoubleValue(std::log10(static_cast<double>(m_imageScale)) /
+                                                  std::log10(2.0));
+    m_rotation = stored->floatForKey("Rotation Angle");
+    m_archivedImage =
+        std::dynamic_pointer_cast<const ArchivedPicture>(stored->objectForKey("Original Image"));
+    m_originalImage = m_archivedImage != nullptr ? m_archivedImage->picture() : std::nullopt;
+    if (!m_originalImage) {
+        m_archivedImage.reset();
+        m_scaledImage.reset();
+        m_scrollArea.setDocumentSize({});
+    }
+    makeScaledImage();
+    m_scrollArea.scrollPoint(
+        geometrytext::pointFromString(stored->stringForKey("Scrolled Position")));
+    setButtonStates();
+    setNeedsDisplay();
+    Q_EMIT pictureChanged();
+    Q_EMIT scaleChanged(m_imageScale);
+    return true;
+}
+
+void GraphImageView::settingModeChanged()
+{
+    setNeedsDisplay();
+    const bool axisSetting = m_outlets.document->isInAxisSettingMode();
+    if (axisSetting) {
+        m_outlets.document->removeUndoOfDataSeries();
+    } else {
+        m_outlets.cursorGuide->setConverter(m_outlets.currentAxes->makeAxisConverter());
+        m_outlets.cursorGuide->lockStateChanged();
+        if (m_outlets.cursorGuide->converter() == nullptr)
+            m_outlets.document->sheets().present({texts::localized("ErrorOccurred"),
+                                                  texts::localized("CantMakeConverter"),
+                                                  texts::localized("OK"), QString()},
+                                                 {});
+        m_outlets.document->removeUndoOfCurrentAxes();
+    }
+    m_outlets.rotateCWButton->setEnabled(axisSetting && hasImage());
+    m_outlets.rotateCCWButton->setEnabled(axisSetting && hasImage());
+}
+
+void GraphImageView::prefsChanged()
+{
+    if (m_mouseCheckTimer.isActive()) {
+        stopMouseChecking();
+        startMouseChecking();
+    }
+    setNeedsDisplay();
+}
+
+void GraphImageView::windowWillClose()
+{
+    m_opener->cancel();
+    m_originalImage.reset();
+    m_scaledImage.reset();
+    m_archivedImage.reset();
+    stopMouseChecking();
+}
+
+void GraphImageView::setNeedsDisplay() { update(); }

@@ -1,0 +1,310 @@
+#include "imageview/GraphImageView.h"
+#include "imageview/ImageViewSurroundings.h"
+#include "imageview/MouseDownMode.h"
+#include "imageview/PictureScrollArea.h"
+#include "platform/Desktop.h"
+#include "platform/Texts.h"
+#include "platform/UndoManager.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// Pixels count from their upper edge, so it is the upper edge of a rectangle that belongs to it.
+bool isPointerInside(FloatPoint p, const FloatRect &rect)
+{
+    return p.x >= rect.origin.x && p.x < rect.origin.x + rect.size.width && p.y > rect.origin.y &&
+           p.y <= rect.origin.y + rect.size.height;
+}
+
+} // namespace
+
+// The border of the widget: positions and keys
+
+FloatPoint GraphImageView::viewPoint(QPointF widgetPosition) const
+{
+    const float height =
+        m_scaledImage ? m_scaledImage->size().height : static_cast<float>(this->height());
+    return {static_cast<float>(widgetPosition.x()),
+            height - static_cast<float>(widgetPosition.y())};
+}
+
+FloatPoint GraphImageView::windowPoint(QPointF widgetPosition) const
+{
+    const QPointF inWindow = mapTo(window(), widgetPosition);
+    return {static_cast<float>(inWindow.x()),
+            static_cast<float>(window()->height()) - static_cast<float>(inWindow.y())};
+}
+
+FloatPoint GraphImageView::convertPointFromWindow(FloatPoint windowPoint) const
+{
+    const auto fromTop = static_cast<qreal>(static_cast<float>(window()->height()) - windowPoint.y);
+    return viewPoint(mapFrom(window(), QPointF(static_cast<qreal>(windowPoint.x), fromTop)));
+}
+
+FloatPoint GraphImageView::pointerInView() const
+{
+    return viewPoint(mapFromGlobal(QPointF(m_outlets.document->desktop().pointerPosition())));
+}
+
+int GraphImageView::mosueDownMode(Qt::KeyboardModifiers modifierFlags) const
+{
+    return mousedownmode::modeFor(modifierFlags, m_outlets.document->isInAxisSettingMode());
+}
+
+int GraphImageView::modeOfHeldKeys(Qt::KeyboardModifiers modifierFlags) const
+{
+    return m_spaceIsHeld ? HandMode : mosueDownMode(modifierFlags);
+}
+
+// Press, drag, release
+
+void GraphImageView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    // This press only brings the window to the front. Where there is nobody to activate
+    // windows none ever becomes active, and each press counts.
+    if (m_windowWasActive && !isActiveWindow())
+        return;
+    if (!m_scaledImage)
+        return;
+    m_leftButtonIsDown = true;
+    mouseDown(windowPoint(event->position()), viewPoint(event->position()),
+              modeOfHeldKeys(event->modifiers()));
+}
+
+void GraphImageView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_leftButtonIsDown)
+        return;
+    if (m_trackingAnchorDrag)
+        m_outlets.currentAxes->continueDrag(viewPoint(event->position()));
+    else
+        mouseDragged(windowPoint(event->position()));
+}
+
+void GraphImageView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_leftButtonIsDown)
+        return;
+    m_leftButtonIsDown = false;
+    if (m_trackingAnchorDrag)
+        endAnchorDrag(viewPoint(event->position()));
+    else
+        mouseUp();
+}
+
+void GraphImageView::mouseDown(FloatPoint windowPoint, FloatPoint viewPosition, int mode)
+{
+    setMouseDownMode(mode);
+    m_initialMousePos = windowPoint;
+    m_initialViewPos = viewPosition;
+    m_justMouseDown = true;
+    if (mode == DigitizeMode) {
+        const std::shared_ptr<const ZKConvCoordinate> converter =
+            m_outlets.cursorGuide->converter();
+        const FloatPoint values =
+            m_outlets.cursorGuide->dataPointAt(m_initialViewPos, m_imageScale);
+        m_outlets.dataSeries->appendData(values, converter);
+    } else if (mode == HandMode) {
+        m_initialOrigin = m_scrollArea.visibleOrigin();
+    }
+}
+
+void GraphImageView::mouseDragged(FloatPoint windowPoint)
+{
+    m_outlets.cursorGuide->clearGuide();
+    if (m_mouseDownMode == HandMode) {
+        m_scrollArea.scrollPoint({m_initialOrigin.x - (windowPoint.x - m_initialMousePos.x),
+                                  m_initialOrigin.y - (windowPoint.y - m_initialMousePos.y)});
+    } else if (m_mouseDownMode == DragAnchorMode) {
+        dragAnchors(windowPoint);
+        if (m_trackingAnchorDrag)
+            return; // the rest is done when the drag has ended
+        setMouseDownMode(DigitizeMode);
+    }
+    m_justMouseDown = false;
+    m_inDragging = m_mouseDownMode != DigitizeMode;
+}
+
+void GraphImageView::dragAnchors(FloatPoint windowPoint)
+{
+    if (m_justMouseDown) {
+        m_outlets.document->undoManager().setActionName(texts::localized("actionAxisChange"));
+        m_outlets.currentAxes->registerUndoOfAnchors();
+    }
+    m_outlets.currentAxes->dragAnchor(convertPointFromWindow(m_initialMousePos),
+                                      convertPointFromWindow(windowPoint));
+    m_trackingAnchorDrag = m_outlets.currentAxes->isDragging();
+}
+
+void GraphImageView::endAnchorDrag(FloatPoint viewPosition)
+{
+    m_outlets.currentAxes->endDrag(viewPosition);
+    m_trackingAnchorDrag = false;
+    setMouseDownMode(DigitizeMode);
+    m_justMouseDown = false;
+    m_inDragging = false;
+    for (std::unique_ptr<QKeyEvent> &key : std::exchange(m_keysDuringDrag, {}))
+        QCoreApplication::postEvent(this, key.release());
+    Q_EMIT anchorDragEnded();
+}
+
+void GraphImageView::mouseUp()
+{
+    setCursor(Qt::ArrowCursor);
+    setNeedsDisplay();
+    setMouseDownMode(DigitizeMode);
+    m_justMouseDown = false;
+    m_inDragging = false;
+}
+
+void GraphImageView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space && hasImage()) {
+        m_spaceIsHeld = true;
+        return;
+    }
+    if (m_trackingAnchorDrag) {
+        m_keysDuringDrag.emplace_back(event->clone());
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void GraphImageView::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space && m_spaceIsHeld) {
+        if (!event->isAutoRepeat())
+            m_spaceIsHeld = false;
+        return;
+    }
+    QWidget::keyReleaseEvent(event);
+}
+
+void GraphImageView::focusOutEvent(QFocusEvent *event)
+{
+    m_spaceIsHeld = false;
+    QWidget::focusOutEvent(event);
+}
+
+void GraphImageView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_windowWasActive = true;
+    QWidget::changeEvent(event);
+}
+
+// Hovering
+
+void GraphImageView::startMouseChecking()
+{
+    if (!hasImage()) {
+        stopMouseChecking();
+        return;
+    }
+    if (!m_mouseCheckTimer.isActive())
+        m_mouseCheckTimer.start(
+            static_cast<int>(std::lround(m_outlets.prefs->guideInterval() * 1000)));
+}
+
+void GraphImageView::stopMouseChecking()
+{
+    if (!m_mouseCheckTimer.isActive())
+        return;
+    m_mouseCheckTimer.stop();
+    m_outlets.cursorGuide->clearGuide();
+    setHover({});
+}
+
+void GraphImageView::mouseCheckRoutine()
+{
+    if (m_inDragging) {
+        setModeCursor(m_mouseDownMode);
+        return;
+    }
+    const FloatPoint pointer = pointerInView();
+    if (!isPointerInside(pointer, m_scrollArea.visibleRect())) {
+        m_outlets.cursorGuide->clearGuide();
+        if (m_mouseDownMode != DigitizeMode) {
+            setCursor(Qt::ArrowCursor);
+            setMouseDownMode(DigitizeMode);
+        }
+        setHover({});
+        return;
+    }
+    const int mode = modeOfHeldKeys(m_outlets.document->desktop().modifiers());
+    if (mode >= HandMode) {
+        if (mode != m_mouseDownMode)
+            setModeCursor(mode);
+    } else if (m_mouseDownMode != DragAnchorMode) {
+        setCursor(Qt::ArrowCursor);
+    }
+    if (mode == DigitizeMode && !m_outlets.document->isInAxisSettingMode() &&
+        m_outlets.cursorGuide->converter() != nullptr)
+        m_outlets.cursorGuide->drawGuide(pointer, m_imageScale);
+    setMouseDownMode(mode);
+    setHover(FloatPoint{pointer.x / m_imageScale, pointer.y / m_imageScale});
+}
+
+void GraphImageView::setMouseDownMode(int mode)
+{
+    if (std::exchange(m_mouseDownMode, mode) != mode)
+        Q_EMIT mouseDownModeChanged(mode);
+}
+
+void GraphImageView::setHover(std::optional<FloatPoint> inPicture)
+{
+    if (std::exchange(m_hover, inPicture) != inPicture)
+        Q_EMIT hoverChanged(inPicture);
+}
+
+void GraphImageView::setModeCursor(int mode)
+{
+    if (mode == HandMode)
+        setCursor(Qt::OpenHandCursor);
+}
+
+// Drawing
+
+void GraphImageView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    drawRect(painter, event->rect());
+}
+
+void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
+{
+    if (!m_scaledImage) {
+        painter.fillRect(dirtyRect, Qt::white);
+        drawHint(painter);
+        return;
+    }
+    m_scaledImage->draw(painter, dirtyRect, visibleRegion().boundingRect());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(0, static_cast<qreal>(m_scaledImage->size().height));
+    painter.scale(1, -1);
+    if (m_outlets.document->isInAxisSettingMode()) {
+        m_outlets.currentAxes->drawAxisWithScale(painter, m_imageScale);
+    } else {
+        m_outlets.cursorGuide->drawGuide(painter);
+        m_outlets.dataSeries->drawDataMarkersWithScale(painter, m_imageScale);
+    }
+}
+
+void GraphImageView::drawHint(QPainter &painter) const
+{
+    painter.setPen(Qt::darkGray);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     texts::localized("imageview.view.empty-hint"));
+}

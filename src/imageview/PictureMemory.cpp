@@ -1,0 +1,57 @@
+#include "imageview/PictureMemory.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QPixelFormat>
+
+#include <algorithm>
+
+namespace {
+
+/// Assumed where the system does not tell.
+constexpr std::uint64_t usualMemory = std::uint64_t{2} << 30U;
+
+/// No picture has more pixels, whatever the memory; views and painters count in 32 bits.
+constexpr std::uint64_t mostPixels = std::uint64_t{1} << 30U;
+constexpr int longestSide = 1 << 20;
+
+/// The bytes needed at the worst moment: the decoded pixels, their form for the screen, a second
+/// copy while they are turned upright, and the reduced copies.
+std::uint64_t neededBytes(const QImageReader &reader, std::uint64_t pixels)
+{
+    const QImage::Format format = reader.imageFormat();
+    const std::uint64_t decoded =
+        format == QImage::Format_Invalid
+            ? 4
+            : (std::uint64_t{QImage::toPixelFormat(format).bitsPerPixel()} + 7) / 8;
+    const bool turned = reader.transformation() != QImageIOHandler::TransformationNone;
+    const std::uint64_t second = turned || decoded != 4 ? std::max<std::uint64_t>(decoded, 4) : 0;
+    return pixels * (decoded + second) + pixels / 3;
+}
+
+} // namespace
+
+std::uint64_t picturememory::available()
+{
+    QFile file(QStringLiteral("/proc/meminfo"));
+    if (!file.open(QIODevice::ReadOnly))
+        return usualMemory;
+    const QByteArray wanted = "MemAvailable:";
+    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
+        if (line.startsWith(wanted)) {
+            const QByteArray kibibytes = line.mid(wanted.size()).trimmed().split(' ').constFirst();
+            return kibibytes.toULongLong() * 1024 / 10 * 9;
+        }
+    }
+    return usualMemory;
+}
+
+bool picturememory::fits(const QImageReader &reader, std::uint64_t bytes)
+{
+    const QSize size = reader.size();
+    if (size.isEmpty() || size.width() > longestSide || size.height() > longestSide)
+        return false;
+    const std::uint64_t pixels =
+        static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height());
+    return pixels <= mostPixels && neededBytes(reader, pixels) <= bytes;
+}

@@ -1,0 +1,187 @@
+#include "imageview/PictureReader.h"
+
+#include "imageview/PictureFile.h"
+#include "imageview/PictureMemory.h"
+#include "platform/Texts.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <string>
+#include <utility>
+
+namespace {
+
+/// Drawings have no pixels of their own; larger ones are made to fit this.
+constexpr int longestSideOfDrawing = 8192;
+
+/// Where the signature of a page description may stand.
+constexpr qint64 signatureRange = 1024;
+
+bool isDrawing(const QByteArray &format) { return format == "svg" || format == "svgz"; }
+
+/// Formats without a real signature, which are believed only with the right file name.
+bool hasWeakSignature(const QByteArray &format)
+{
+    static const std::array<QByteArray, 3> weak{"tga", "wbmp", "xbm"};
+    return std::find(weak.begin(), weak.end(), format) != weak.end();
+}
+
+std::optional<PictureProblem> problemOfPath(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return PictureProblem::Missing;
+    if (file.isDir())
+        return PictureProblem::Folder;
+    if (!file.isFile() || !file.isReadable())
+        return PictureProblem::Unreadable;
+    if (file.size() == 0)
+        return PictureProblem::Empty;
+    return {};
+}
+
+std::optional<PictureProblem> problemOfFormat(QImageReader &reader, const QString &path)
+{
+    if (!reader.canRead())
+        return PictureProblem::NotAPicture;
+    const QByteArray format = reader.format();
+    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
+    if (format.isEmpty() || format == "pdf" || (hasWeakSignature(format) && format != suffix))
+        return PictureProblem::NotAPicture;
+    return {};
+}
+
+std::optional<PictureProblem> problemOfSize(QImageReader &reader, std::uint64_t memoryLimit)
+{
+    const QSize size = reader.size();
+    if (isDrawing(reader.format())) {
+        if (size.isEmpty())
+            return PictureProblem::Damaged;
+        if (std::max(size.width(), size.height()) > longestSideOfDrawing) {
+            const QSize bounded =
+                size.scaled(longestSideOfDrawing, longestSideOfDrawing, Qt::KeepAspectRatio);
+            reader.setScaledSize(bounded.expandedTo({1, 1}));
+        }
+        return {};
+    }
+    if (size.isEmpty())
+        return PictureProblem::Damaged;
+    if (!picturememory::fits(reader, memoryLimit))
+        return PictureProblem::TooLarge;
+    return {};
+}
+
+/// Decoders make up what is missing at the end of some formats; the file knows better.
+bool isIncomplete(const PictureFile &file, const QByteArray &format)
+{
+    if (format == "jpeg" || format == "jpg" || format == "gif")
+        return file.ranOut();
+    static const std::array<QByteArray, 9> exact{"bmp", "dib", "tif", "tiff", "pbm",
+                                                 "pgm", "ppm", "tga", "wbmp"};
+    return std::find(exact.begin(), exact.end(), format) != exact.end() && file.fellShort();
+}
+
+/// Looks for the signature of page descriptions, which are never read as bitmaps.
+bool isPageDescription(PictureFile &file) { return file.peek(signatureRange).contains("%PDF-"); }
+
+/// Opens `file` for `reader` up to the point where only the decoding is left.
+std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader, const QString &path,
+                                      std::uint64_t memoryLimit)
+{
+    if (const auto problem = problemOfPath(path))
+        return problem;
+    if (!file.open(QIODevice::ReadOnly))
+        return PictureProblem::Unreadable;
+    if (isPageDescription(file))
+        return PictureProblem::NotAPicture;
+    QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
+    reader.setDevice(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (const auto problem = problemOfFormat(reader, path))
+        return problem;
+    return problemOfSize(reader, memoryLimit);
+}
+
+PictureReading decoded(PictureFile &file, QImageReader &reader, const std::stop_token &stop)
+{
+    PictureReading reading{{}, {}, reader.size()};
+    const QByteArray format = reader.format();
+    file.beginNoticing();
+    QImage image = reader.read();
+    if (stop.stop_requested())
+        reading.problem = PictureProblem::Cancelled;
+    else if (image.isNull() || isIncomplete(file, format))
+        reading.problem = PictureProblem::Damaged;
+    if (reading.problem)
+        return reading;
+    reading.picture = Picture::fromImageRep(std::move(image));
+    if (!reading.picture)
+        reading.problem = PictureProblem::TooLarge;
+    return reading;
+}
+
+const char *keyOf(PictureProblem problem)
+{
+    switch (problem) {
+    case PictureProblem::Missing:
+        return "imageview.error.missing";
+    case PictureProblem::Folder:
+        return "imageview.error.folder";
+    case PictureProblem::Unreadable:
+        return "imageview.error.unreadable";
+    case PictureProblem::Empty:
+        return "imageview.error.empty";
+    case PictureProblem::NotAPicture:
+        return "imageview.error.not-a-picture";
+    case PictureProblem::Damaged:
+        return "imageview.error.damaged";
+    case PictureProblem::TooLarge:
+        return "imageview.error.too-large";
+    case PictureProblem::Cancelled:
+        break;
+    }
+    return "imageview.error.cancelled";
+}
+
+} // namespace
+
+PictureReader::PictureReader(std::uint64_t memoryLimit)
+    : m_memoryLimit(memoryLimit)
+{}
+
+PictureReading PictureReader::probe(const QString &path) const
+{
+    PictureFile file(path, {}, nullptr);
+    QImageReader reader;
+    const std::optional<PictureProblem> problem = prepare(file, reader, path, m_memoryLimit);
+    return {{}, problem, reader.device() != nullptr ? reader.size() : QSize()};
+}
+
+PictureReading PictureReader::read(const QString &path, const std::stop_token &stop,
+                                   std::atomic<int> *percentRead) const
+{
+    PictureFile file(path, stop, percentRead);
+    QImageReader reader;
+    try {
+        if (const auto problem = prepare(file, reader, path, m_memoryLimit))
+            return {{}, problem, reader.device() != nullptr ? reader.size() : QSize()};
+        return decoded(file, reader, stop);
+    } catch (const std::bad_alloc &) {
+        return {{}, PictureProblem::TooLarge, {}};
+    }
+}
+
+QString pictureproblem::explanation(const PictureReading &reading, const QString &path)
+{
+    const auto text = [](int number) { return QString::fromStdString(std::to_string(number)); };
+    QString explained = texts::localized(keyOf(reading.problem.value()));
+    explained.replace(QStringLiteral("%2"), text(reading.pixelSize.width()));
+    explained.replace(QStringLiteral("%3"), text(reading.pixelSize.height()));
+    // The name comes last: it may hold anything.
+    return explained.replace(QStringLiteral("%1"), QFileInfo(path).fileName());
+}

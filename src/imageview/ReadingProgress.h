@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+class QProgressBar;
+
+/// The panel over the picture that shows how far the reading of a large file has come. It
+/// blocks nothing, and offers to stop.
+class ReadingProgress : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// Keeps itself in the middle of `host`, which becomes its parent.
+    explicit ReadingProgress(QWidget &host);
+
+    void showFor(const QString &fileName);
+    void setPercent(int percent);
+
+Q_SIGNALS:
+    void cancelled();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void moveToMiddle();
+
+    QLabel *m_label;
+    QProgressBar *m_bar;
+};
