@@ -37,12 +37,13 @@ QDialog *makeBox(const Sheet &sheet, QWidget *window)
     return box;
 }
 
-/// Escape and the window's close button press a button too, so there is always one.
+/// Escape and closing press a button too, but closing tells so only after the box has ended.
 SheetAnswer answerOf(const QDialog &dialog)
 {
     const auto &box = static_cast<const QMessageBox &>(dialog);
-    const bool isAlternate = box.clickedButton() != box.defaultButton();
-    return isAlternate ? SheetAnswer::Alternate : SheetAnswer::Default;
+    const QAbstractButton *const pressed =
+        box.clickedButton() ? box.clickedButton() : box.escapeButton();
+    return pressed == box.defaultButton() ? SheetAnswer::Default : SheetAnswer::Alternate;
 }
 
 } // namespace

@@ -1,0 +1,204 @@
+#include "platform/WindowFilePanels.h"
+
+#include "platform/WindowSheets.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+
+namespace {
+
+class WindowFilePanelsTest : public testing::Test
+{
+protected:
+    WindowFilePanelsTest()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        m_window.show();
+    }
+
+    template <typename Dialog>
+    Dialog *shown() const
+    {
+        for (auto *dialog : m_window.findChildren<Dialog *>()) {
+            if (dialog->isVisible())
+                return dialog;
+        }
+        return nullptr;
+    }
+
+    QString inFolder(const QString &name) const { return m_folder.filePath(name); }
+
+    void create(const QString &name) const
+    {
+        QFile file(inFolder(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    void askToSave()
+    {
+        m_panels.chooseTextFileToSave(QStringLiteral("Save all series"), QStringLiteral("chart"),
+                                      [this](const QString &path) { m_chosen += path; });
+    }
+
+    /// Types `name` into the panel and confirms it.
+    void confirm(const QString &name) const
+    {
+        auto *const panel = shown<QFileDialog>();
+        ASSERT_TRUE(panel);
+        panel->setDirectory(m_folder.path());
+        auto *const field = panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        ASSERT_TRUE(field);
+        panel->activateWindow();
+        field->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([field] { return field->hasFocus(); }));
+        field->selectAll();
+        QTest::keyClicks(field, name);
+        QTest::keyClick(field, Qt::Key_Return);
+        ASSERT_FALSE(panel->isVisible());
+    }
+
+    void answerQuestion(const QString &button) const
+    {
+        auto *const question = shown<QMessageBox>();
+        ASSERT_TRUE(question);
+        for (QAbstractButton *candidate : question->buttons()) {
+            if (candidate->text().remove(QLatin1Char('&')) == button) {
+                candidate->click();
+                return;
+            }
+        }
+        FAIL() << "no button " << button.toStdString();
+    }
+
+    QTemporaryDir m_folder;
+    QWidget m_window;
+    WindowSheets m_sheets{&m_window};
+    WindowFilePanels m_panels{m_sheets};
+    QStringList m_chosen;
+};
+
+} // namespace
+
+TEST_F(WindowFilePanelsTest, theSavePanelShowsMessageAndNameWithoutBlocking)
+{
+    askToSave();
+    auto *const panel = shown<QFileDialog>();
+    ASSERT_TRUE(panel);
+    EXPECT_EQ(panel->windowTitle(), QStringLiteral("Save all series"));
+    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("chart"));
+    EXPECT_EQ(m_chosen, QStringList());
+}
+
+TEST_F(WindowFilePanelsTest, aNameWithoutTheSuffixGetsIt)
+{
+    askToSave();
+    confirm(QStringLiteral("data"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.txt"))}));
+}
+
+TEST_F(WindowFilePanelsTest, anotherSuffixIsPartOfTheName)
+{
+    askToSave();
+    confirm(QStringLiteral("data.v2"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.v2.txt"))}));
+}
+
+TEST_F(WindowFilePanelsTest, theSuffixCountsInAnyCase)
+{
+    askToSave();
+    confirm(QStringLiteral("DATA.TXT"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("DATA.TXT"))}));
+}
+
+TEST_F(WindowFilePanelsTest, cancellingThePanelChoosesNothing)
+{
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    QTest::keyClick(shown<QFileDialog>(), Qt::Key_Escape);
+    EXPECT_EQ(m_chosen, QStringList());
+    EXPECT_FALSE(m_sheets.isShowing());
+}
+
+TEST_F(WindowFilePanelsTest, overwritingTheCompletedNameIsAskedFirst)
+{
+    create(QStringLiteral("data.txt"));
+    askToSave();
+    confirm(QStringLiteral("data"));
+    ASSERT_TRUE(shown<QMessageBox>());
+    EXPECT_TRUE(shown<QMessageBox>()->text().contains(QStringLiteral("data.txt")));
+    EXPECT_EQ(m_chosen, QStringList());
+    answerQuestion(QStringLiteral("Replace"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.txt"))}));
+}
+
+TEST_F(WindowFilePanelsTest, overwritingIsAskedOnceForACompleteNameToo)
+{
+    create(QStringLiteral("data.txt"));
+    askToSave();
+    confirm(QStringLiteral("data.txt"));
+    answerQuestion(QStringLiteral("Replace"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.txt"))}));
+    EXPECT_FALSE(m_sheets.isShowing());
+}
+
+TEST_F(WindowFilePanelsTest, whoDoesNotOverwriteChoosesAnotherName)
+{
+    create(QStringLiteral("data.txt"));
+    askToSave();
+    confirm(QStringLiteral("data"));
+    answerQuestion(QStringLiteral("Cancel"));
+    EXPECT_EQ(m_chosen, QStringList());
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_EQ(shown<QFileDialog>()->windowTitle(), QStringLiteral("Save all series"));
+    confirm(QStringLiteral("other"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("other.txt"))}));
+}
+
+TEST_F(WindowFilePanelsTest, theNextPanelOpensInTheFolderOfTheLastOne)
+{
+    askToSave();
+    confirm(QStringLiteral("data"));
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(m_folder.path()));
+}
+
+TEST_F(WindowFilePanelsTest, theOpenPanelOffersPicturesAndEverything)
+{
+    m_panels.choosePictureToOpen({QStringLiteral("png"), QStringLiteral("jpg")},
+                                 [this](const QString &path) { m_chosen += path; });
+    auto *const panel = shown<QFileDialog>();
+    ASSERT_TRUE(panel);
+    EXPECT_EQ(panel->windowTitle(), QStringLiteral("Open Picture"));
+    EXPECT_EQ(panel->nameFilters(), QStringList({QStringLiteral("Pictures (*.png *.jpg)"),
+                                                 QStringLiteral("All files (*)")}));
+}
+
+TEST_F(WindowFilePanelsTest, theOpenPanelHandsOutTheChosenPicture)
+{
+    create(QStringLiteral("chart.png"));
+    m_panels.choosePictureToOpen({QStringLiteral("png")},
+                                 [this](const QString &path) { m_chosen += path; });
+    confirm(QStringLiteral("chart.png"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("chart.png"))}));
+}
+
+TEST_F(WindowFilePanelsTest, cancellingTheOpenPanelChoosesNothing)
+{
+    m_panels.choosePictureToOpen({QStringLiteral("png")},
+                                 [this](const QString &path) { m_chosen += path; });
+    ASSERT_TRUE(shown<QFileDialog>());
+    QTest::keyClick(shown<QFileDialog>(), Qt::Key_Escape);
+    EXPECT_EQ(m_chosen, QStringList());
+}
