@@ -54,7 +54,9 @@ void SeriesExport::savePanelDidEnd(const QString &path, const QString &text)
 {
     const QByteArray content = seriestext::lossyAscii(text);
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    // Flushed by hand: commit() does not notice when the last buffered bytes find no room.
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
+        file.commit())
         return;
     const QString title = texts::localized("capture.export.failed").arg(QFileInfo(path).fileName());
     m_surroundings.sheets.present(

@@ -396,6 +396,7 @@ TEST_F(DataSeriesTest, aHundredThousandPointsStayUsable)
     std::vector<ZKVector> points;
     for (int i = 0; i < count; ++i)
         points.push_back(vectorOf(i, 0));
+    click(0, 0);
     series.setDataArray({PointList(points), 0});
     endEvent();
     series.simulateToggleSort();
