@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document/DocumentMenus.h"
+
+#include "platform/Desktop.h"
+#include "platform/FilePanels.h"
+#include "platform/Sheets.h"
+
+#include <memory>
+
+class Clipboard;
+class CurvegrabPrefs;
+class MyDocument;
+class QWidget;
+
+/// What a window asks its user with. The panels go before the sheets.
+struct WindowDialogs
+{
+    std::unique_ptr<Sheets> sheets;
+    std::unique_ptr<FilePanels> panels;
+};
+
+/// What a document is handed by the application around it. Tests hand in services that answer.
+class DocumentServices
+{
+public:
+    virtual ~DocumentServices() = default;
+
+    [[nodiscard]] virtual CurvegrabPrefs &prefs() = 0;
+    [[nodiscard]] virtual Clipboard &clipboard() = 0;
+    [[nodiscard]] virtual DocumentMenus::SharedItems sharedItems() = 0;
+    /// The sheets and file panels of one window, which outlives them; they share one queue.
+    [[nodiscard]] virtual WindowDialogs makeDialogs(QWidget &window) = 0;
+    /// The desktop as one window sees it, which outlives it.
+    [[nodiscard]] virtual std::unique_ptr<Desktop> makeDesktop(QWidget &window) = 0;
+
+    /// Commands that concern the whole application.
+    virtual void newDocument() = 0;
+    virtual void terminate() = 0;
+    virtual void documentBecameKey(MyDocument &document) = 0;
+    /// The document's window was closed; the document goes.
+    virtual void documentClosed(MyDocument &document) = 0;
+};

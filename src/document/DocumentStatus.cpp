@@ -1,0 +1,111 @@
+#include "document/DocumentStatus.h"
+
+#include "axes/CurrentAxes.h"
+#include "capture/CursorGuide.h"
+#include "capture/DataSeries.h"
+#include "document/DocumentWindow.h"
+#include "document/MyDocument.h"
+#include "document/StatusLine.h"
+#include "imageview/GraphImageView.h"
+#include "imageview/MouseDownMode.h"
+#include "platform/NumberText.h"
+#include "platform/Texts.h"
+
+namespace {
+
+constexpr int polarConverter = 2;
+constexpr int shownDigits = 5;
+
+QString number(float value)
+{
+    return QString::fromStdString(numbertext::general(static_cast<double>(value), shownDigits));
+}
+
+} // namespace
+
+DocumentStatus::DocumentStatus(MyDocument &document)
+    : QObject(&document.window())
+    , m_document(document)
+{
+    connect(&document.graphView(), &GraphImageView::hoverChanged, this,
+            &DocumentStatus::hoverChanged);
+    connect(&document.graphView(), &GraphImageView::mouseDownModeChanged, this,
+            [this] { showHint(); });
+}
+
+void DocumentStatus::refresh()
+{
+    showHint();
+    showPositions();
+    showSeries();
+    showScale();
+    m_document.window().showEmptyHint(!m_document.hasImage());
+}
+
+void DocumentStatus::hoverChanged(std::optional<FloatPoint> inPicture)
+{
+    m_hover = inPicture;
+    showHint();
+    showPositions();
+}
+
+QString DocumentStatus::hint() const
+{
+    if (!m_document.hasImage())
+        return texts::localized("document.status.open");
+    const GraphImageView &view = m_document.graphView();
+    if (m_hover && view.mouseDownMode() == HandMode)
+        return texts::localized("document.status.hand");
+    if (m_document.isInAxisSettingMode()) {
+        const float scale = view.imageScale();
+        const QString part =
+            m_hover ? m_document.currentAxes().hintAtPoint({m_hover->x * scale, m_hover->y * scale})
+                    : QString();
+        return part.isEmpty() ? texts::localized("document.status.dragAxes") : part;
+    }
+    if (!m_document.cursorGuide().converter())
+        return texts::localized("document.status.noConverter");
+    if (!m_hover)
+        return texts::localized("document.status.digitize");
+    return texts::localized("document.status.addPoint")
+        .arg(m_document.dataSeries().currentSeries() + 1);
+}
+
+void DocumentStatus::showHint() { m_document.window().status().setHint(hint()); }
+
+void DocumentStatus::showPositions()
+{
+    StatusLine &status = m_document.window().status();
+    status.setPicturePosition(m_hover ? texts::localized("document.status.picture")
+                                            .arg(number(m_hover->x), number(m_hover->y))
+                                      : QString());
+    const auto converter = m_document.cursorGuide().converter();
+    if (!m_hover || !converter || m_document.isInAxisSettingMode()) {
+        status.setGraphPosition({});
+        return;
+    }
+    const FloatPoint data = m_document.cursorGuide().dataPointAt(*m_hover, 1.0F);
+    const bool polar = converter->converterType() == polarConverter;
+    status.setGraphPosition(
+        texts::localized(polar ? "document.status.graphPolar" : "document.status.graph")
+            .arg(number(data.x), number(data.y)));
+}
+
+void DocumentStatus::showSeries()
+{
+    const DataSeries &series = m_document.dataSeries();
+    m_document.window().status().setSeries(m_document.hasImage()
+                                               ? texts::localized("document.status.series")
+                                                     .arg(series.currentSeries() + 1)
+                                                     .arg(series.currentIndex() + 1)
+                                               : QString());
+}
+
+void DocumentStatus::showScale()
+{
+    const double percent = static_cast<double>(m_document.graphView().imageScale()) * 100.0;
+    m_document.window().showScale(
+        m_document.hasImage() ? texts::localized("document.zoom.percent")
+                                    .arg(QString::fromStdString(numbertext::fixed(percent, 0)))
+                              : QString());
+}

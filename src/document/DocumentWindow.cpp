@@ -1,0 +1,74 @@
+#include "document/DocumentWindow.h"
+
+#include "document/EmptyPictureHint.h"
+#include "document/MyDocument.h"
+#include "document/StatusLine.h"
+#include "document/SymbolIcons.h"
+#include "ui_MyDocument.h"
+
+#include <QCloseEvent>
+#include <QEvent>
+
+DocumentWindow::DocumentWindow(MyDocument &document)
+    : m_document(document)
+    , m_ui(std::make_unique<Ui::MyDocument>())
+{
+    m_ui->setupUi(this);
+    setObjectName(QStringLiteral("MyDocument"));
+    m_ui->actionSelectionTab->setTabs(m_ui->axisTabButton, m_ui->digitizingTabButton,
+                                      m_ui->actionPages);
+    m_ui->dataTableDrawer->setContent(m_ui->dataTableView);
+    m_ui->rotDirRadio->setId(m_ui->counterClockwiseRadio, 0);
+    m_ui->rotDirRadio->setId(m_ui->clockwiseRadio, 1);
+    m_status = new StatusLine(this);
+    m_ui->statusBar->addWidget(m_status, 1);
+    m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);
+    connect(m_emptyHint, &EmptyPictureHint::openRequested, &m_document, &MyDocument::openImageFile);
+    applyIcons();
+}
+
+DocumentWindow::~DocumentWindow() = default;
+
+void DocumentWindow::showEmptyHint(bool shown) { m_emptyHint->setVisible(shown); }
+
+void DocumentWindow::showScale(const QString &text) { m_ui->zoomLabel->setText(text); }
+
+void DocumentWindow::applyIcons()
+{
+    const auto set = [this](QToolButton *button, const char *name) {
+        button->setIcon(symbolicons::icon(QString::fromLatin1(name), palette()));
+    };
+    set(m_ui->rotateCCWButton, "turn-left");
+    set(m_ui->rotateCWButton, "turn-right");
+    set(m_ui->fitWidthButton, "fit-width");
+    set(m_ui->fitHeightButton, "fit-height");
+    set(m_ui->drawerOpenButton, "table");
+    set(m_ui->axisTabButton, "axes");
+    set(m_ui->digitizingTabButton, "digitize");
+}
+
+bool DocumentWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        m_document.windowDidBecomeKey();
+    else if (event->type() == QEvent::WindowDeactivate)
+        m_document.windowDidResignKey();
+    return QMainWindow::event(event);
+}
+
+void DocumentWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        applyIcons();
+    QMainWindow::changeEvent(event);
+}
+
+void DocumentWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_document.windowShouldClose()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    m_document.windowWillClose();
+}

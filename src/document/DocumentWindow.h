@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace Ui {
+class MyDocument;
+}
+
+class EmptyPictureHint;
+class MyDocument;
+class StatusLine;
+
+/// The window of one document: the picture with its bar of controls, the action tab, the status
+/// line, and the drawer with the table.
+class DocumentWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// `document` outlives the window.
+    explicit DocumentWindow(MyDocument &document);
+    ~DocumentWindow() override;
+
+    [[nodiscard]] Ui::MyDocument &ui() const { return *m_ui; }
+    [[nodiscard]] StatusLine &status() const { return *m_status; }
+
+    /// Shows or hides the words in the empty picture area that say what to do next.
+    void showEmptyHint(bool shown);
+
+    /// The magnification beside the slider; empty text without a picture.
+    void showScale(const QString &text);
+
+protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void applyIcons();
+
+    MyDocument &m_document;
+    const std::unique_ptr<Ui::MyDocument> m_ui;
+    StatusLine *m_status;
+    EmptyPictureHint *m_emptyHint;
+};

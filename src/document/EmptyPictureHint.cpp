@@ -1,0 +1,41 @@
+#include "document/EmptyPictureHint.h"
+
+#include "platform/Texts.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+EmptyPictureHint::EmptyPictureHint(QWidget *area)
+    : QWidget(area)
+{
+    auto *column = new QVBoxLayout(this);
+    column->setSpacing(10);
+    auto *symbol = new QLabel(this);
+    symbol->setPixmap(QIcon(QStringLiteral(":/icons/curvegrab.svg")).pixmap(56, 56));
+    auto *title = new QLabel(texts::localized("document.empty.title"), this);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    large.setBold(true);
+    title->setFont(large);
+    auto *steps = new QLabel(texts::localized("document.empty.steps"), this);
+    auto *open = new QPushButton(texts::localized("document.empty.open"), this);
+    open->setObjectName(QStringLiteral("emptyOpenButton"));
+    connect(open, &QPushButton::clicked, this, &EmptyPictureHint::openRequested);
+    column->addStretch(2);
+    for (QWidget *part : {static_cast<QWidget *>(symbol), static_cast<QWidget *>(title),
+                          static_cast<QWidget *>(steps), static_cast<QWidget *>(open)})
+        column->addWidget(part, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    area->installEventFilter(this);
+    setGeometry(area->rect());
+}
+
+bool EmptyPictureHint::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize && watched == parent())
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,459 @@
+#include "document/MyDocument.h"
+
+#include "axes/CurrentAxes.h"
+#include "capture/CursorGuide.h"
+#include "capture/DataSeries.h"
+#include "capture/SeriesExport.h"
+#include "document/ComponentAdapters.h"
+#include "document/DocumentStatus.h"
+#include "document/DocumentWindow.h"
+#include "document/WindowFrame.h"
+#include "imageview/GraphImageView.h"
+#include "imageview/PictureSuffixes.h"
+#include "platform/Texts.h"
+#include "prefs/CurvegrabPrefs.h"
+#include "ui_MyDocument.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QScreen>
+
+#include <utility>
+
+namespace {
+
+// The states of the drawer's button; the sense is inverted on purpose.
+constexpr int drawerIsOpen = 0;
+constexpr int drawerIsClosed = 1;
+
+FloatSize sizeOf(QSize size)
+{
+    return {static_cast<float>(size.width()), static_cast<float>(size.height())};
+}
+
+} // namespace
+
+MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
+    : QObject(parent)
+    , m_services(services)
+    , m_number(number)
+    , m_axesAdapter(std::make_unique<AxesAdapter>(*this))
+    , m_captureAdapter(std::make_unique<CaptureAdapter>(*this))
+    , m_imageViewAdapter(std::make_unique<ImageViewAdapter>(*this))
+    , m_window(std::make_unique<DocumentWindow>(*this))
+    , m_dialogs(services.makeDialogs(*m_window))
+    , m_desktop(services.makeDesktop(*m_window))
+{
+    makeComponents();
+    wire();
+    m_menus = new DocumentMenus(*this, *m_window, services.sharedItems());
+    m_status = new DocumentStatus(*this);
+    showTitle();
+    showsChanged();
+}
+
+MyDocument::~MyDocument() = default;
+
+void MyDocument::makeComponents()
+{
+    Ui::MyDocument &ui = m_window->ui();
+    m_graphView = new GraphImageView(*ui.pictureScrollArea);
+    m_dataTableView = ui.dataTableView;
+    m_currentAxes = std::make_unique<CurrentAxes>(
+        CurrentAxesOutlets{ui.axisTypePopup, ui.resetDefault, ui.resetWhole, ui.minXTextField,
+                           ui.maxXTextField, ui.logXCheck, ui.minYTextField, ui.maxYTextField,
+                           ui.logYCheck, ui.thetaRangePopup, ui.rotDirRadio, ui.currentXLabel,
+                           ui.currentYLabel, ui.xAxisBox, ui.yAxisBox, ui.tAxisBox, ui.xModeBox,
+                           ui.autoXModePopUp, ui.sortCheck},
+        *m_axesAdapter, *m_axesAdapter, *m_axesAdapter, *m_axesAdapter);
+    CaptureAdapter &capture = *m_captureAdapter;
+    m_dataSeries = std::make_unique<DataSeries>(
+        DataSeriesOutlets{ui.seriesPopup, ui.markerDrawPopup, ui.sortCheck},
+        DataSeriesSurroundings{capture, capture, capture, capture, capture});
+    m_cursorGuide = std::make_unique<CursorGuide>(
+        CursorGuideSurroundings{capture, capture, *m_dataSeries, capture, capture},
+        CursorGuideOutlets{ui.autoXModePopUp, ui.initialXTextField, ui.stepXTextField,
+                           ui.currentXTextField, ui.currentYTextField, ui.lockXCheck,
+                           ui.lockYCheck});
+    m_seriesExport = std::make_unique<SeriesExport>(
+        SeriesExportSurroundings{*m_dataSeries, *m_dialogs.panels, *m_dialogs.sheets, capture},
+        [this] { return displayName(); });
+}
+
+// Connects everything that talks to each other, then wakes the components up in the order in which
+// they need each other.
+void MyDocument::wire()
+{
+    Ui::MyDocument &ui = m_window->ui();
+    ImageViewAdapter &view = *m_imageViewAdapter;
+    m_graphView->connectOutlets({&view, &view, &view, &view, &view, &view, ui.rotateCWButton,
+                                 ui.rotateCCWButton, ui.fitWidthButton, ui.fitHeightButton,
+                                 ui.magnificationSlider, ui.actionSelectionTab, ui.noImageTab});
+    m_dataTableView->setDataSource(*m_dataSeries, *m_captureAdapter);
+    m_dataSeries->connectTo({m_cursorGuide.get(), m_dataTableView, ui.markerPreview});
+
+    connect(&m_undoManager, &UndoManager::changeCounted, this, &MyDocument::updateChangeCount);
+    connect(&m_undoManager, &UndoManager::historyChanged, this, &MyDocument::showsChanged);
+    connect(ui.actionSelectionTab, &ActionTab::didSelectTab, this, [this] {
+        m_graphView->settingModeChanged();
+        showsChanged();
+    });
+    connect(ui.drawerOpenButton, &QToolButton::clicked, this, &MyDocument::showHideDataTable);
+    connect(ui.dataTableDrawer, &TableDrawer::didOpen, this, &MyDocument::drawerDidOpen);
+    connect(ui.dataTableDrawer, &TableDrawer::didClose, this, &MyDocument::drawerDidClose);
+    connect(m_dataTableView, &DataTableView::selectedColumnsChanged, this,
+            &MyDocument::showsChanged);
+    connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
+    connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
+    connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);
+
+    m_currentAxes->awakeFromNib();
+    m_dataSeries->awakeFromNib();
+    m_cursorGuide->awakeFromNib();
+    m_graphView->awakeFromNib();
+    m_currentAxes->replaceAxisDisplay();
+}
+
+void MyDocument::showWindow()
+{
+    m_window->resize(m_window->minimumSizeHint().expandedTo(QSize(760, 620)));
+    m_window->show();
+    showHideDataTable();
+}
+
+void MyDocument::openPicture(const QUrl &url)
+{
+    m_fileUrl = url;
+    showTitle();
+    m_graphView->openImageFile(url);
+}
+
+CurvegrabPrefs &MyDocument::prefs() const { return m_services.prefs(); }
+
+Clipboard &MyDocument::clipboard() const { return m_services.clipboard(); }
+
+DocumentMenus::SharedItems MyDocument::sharedItems() const { return m_services.sharedItems(); }
+
+void MyDocument::updateChangeCount(ChangeKind kind)
+{
+    switch (kind) {
+    case ChangeKind::Done:
+    case ChangeKind::Redone:
+        ++m_changeCount;
+        break;
+    case ChangeKind::Undone:
+        --m_changeCount;
+        break;
+    case ChangeKind::Cleared:
+        m_changeCount = 0;
+        break;
+    }
+    m_window->setWindowModified(isDocumentEdited());
+}
+
+QString MyDocument::displayName() const
+{
+    if (m_fileUrl.isLocalFile())
+        return m_fileUrl.fileName();
+    if (m_number <= 1)
+        return texts::localized("document.title.untitled");
+    return texts::localized("document.title.numbered").arg(m_number);
+}
+
+bool MyDocument::isInAxisSettingMode() const
+{
+    return m_window->ui().actionSelectionTab->indexOfSelectedTab() == ActionTab::axisSetting;
+}
+
+void MyDocument::forceAxisSettingMode()
+{
+    m_window->ui().actionSelectionTab->selectTab(ActionTab::axisSetting);
+}
+
+bool MyDocument::hasImage() const { return m_graphView->hasImage(); }
+
+FloatSize MyDocument::imageSize() const { return m_graphView->imageSizeWithRotate(); }
+
+menurules::State MyDocument::menuState() const
+{
+    menurules::State state;
+    state.hasImage = hasImage();
+    state.inAxisSettingMode = isInAxisSettingMode();
+    state.tableShown = m_drawerOpenButtonState == drawerIsOpen;
+    state.numSelectedSeries = m_dataSeries->numSelectedSeries();
+    state.numValidSeries = static_cast<int>(m_dataSeries->validSeries().size());
+    state.currentSeries = m_dataSeries->currentSeries();
+    state.autoXMode = m_cursorGuide->autoXMode();
+    state.axisType = axisType();
+    state.canZoomToActual = m_graphView->canZoomToActual();
+    state.canZoomIn = m_graphView->canZoomIn();
+    state.canZoomOut = m_graphView->canZoomOut();
+    return state;
+}
+
+int MyDocument::axisType() const { return m_currentAxes->axisType(); }
+
+int MyDocument::drawMode() const
+{
+    return m_dataSeries->markerDrawOf(m_dataSeries->currentSeries());
+}
+
+bool MyDocument::sortsAutomatically() const { return m_dataSeries->autoSortByX(); }
+
+void MyDocument::perform(int tag, std::function<void()> command)
+{
+    if (m_graphView->isTrackingAnchorDrag()) {
+        m_postponed.emplace_back(tag, std::move(command));
+        return;
+    }
+    if (menurules::validateMenuItem(tag, menuState()))
+        command();
+    showsChanged();
+}
+
+void MyDocument::runPostponedCommands()
+{
+    for (auto &[tag, command] : std::exchange(m_postponed, {}))
+        perform(tag, std::move(command));
+}
+
+FloatSize MyDocument::windowWillUseStandardFrame() const
+{
+    const QSize decoration = m_window->frameGeometry().size() - m_window->size();
+    const QSize smallest =
+        m_window->minimumSize().expandedTo(m_window->minimumSizeHint()) + decoration;
+    const FloatSize view{static_cast<float>(m_graphView->width()),
+                         static_cast<float>(m_graphView->height())};
+    return windowframe::standardSize(view, sizeOf(smallest));
+}
+
+FloatSize MyDocument::windowFrameSize() const
+{
+    QSize frame = m_window->frameGeometry().size();
+    frame.rwidth() -= m_window->ui().dataTableDrawer->widthInWindow();
+    return sizeOf(frame);
+}
+
+void MyDocument::applyStandardFrame()
+{
+    if (m_window->isMaximized() || m_window->isFullScreen())
+        return;
+    const FloatSize standard = windowWillUseStandardFrame();
+    const int drawer = m_window->ui().dataTableDrawer->widthInWindow();
+    const QRect oldFrame = m_window->frameGeometry();
+    const QRect frame = windowframe::placed(
+        oldFrame,
+        QSize(static_cast<int>(standard.width) + drawer, static_cast<int>(standard.height)),
+        m_window->screen()->availableGeometry());
+    const QSize decoration = oldFrame.size() - m_window->size();
+    m_window->resize(frame.size() - decoration);
+    if (m_window->isVisible())
+        m_window->move(frame.topLeft());
+}
+
+void MyDocument::zoomWindow()
+{
+    const FloatSize standard = windowWillUseStandardFrame();
+    const QSize before = m_window->size();
+    const bool isStandard = windowFrameSize() == standard;
+    if (isStandard && m_userFrame.isValid()) {
+        m_window->resize(m_userFrame.size());
+        m_window->move(m_userFrame.topLeft());
+        return;
+    }
+    const QRect userFrame(m_window->pos(), m_window->size());
+    applyStandardFrame();
+    if (m_window->size() != before)
+        m_userFrame = userFrame;
+}
+
+void MyDocument::windowDidBecomeKey()
+{
+    m_isKey = true;
+    m_services.documentBecameKey(*this);
+    m_graphView->startMouseChecking();
+    drawerStateChanged();
+    m_cursorGuide->lockStateChanged();
+    showsChanged();
+}
+
+void MyDocument::windowDidResignKey()
+{
+    m_isKey = false;
+    m_graphView->stopMouseChecking();
+}
+
+bool MyDocument::windowShouldClose()
+{
+    if (m_closeAgreed || !isDocumentEdited() || m_dataSeries->validSeries().empty())
+        return true;
+    m_dialogs.sheets->present(
+        {texts::localized("document.close.title"), texts::localized("document.close.text"),
+         texts::localized("document.close.discard"), texts::localized("Cancel")},
+        [this](SheetAnswer answer) {
+            if (answer != SheetAnswer::Default)
+                return;
+            m_closeAgreed = true;
+            m_window->close();
+        });
+    return false;
+}
+
+void MyDocument::windowWillClose()
+{
+    m_graphView->windowWillClose();
+    m_services.documentClosed(*this);
+}
+
+void MyDocument::showsChanged()
+{
+    if (m_menus == nullptr || m_status == nullptr)
+        return;
+    m_menus->refresh();
+    m_status->refresh();
+}
+
+void MyDocument::newDocument() { m_services.newDocument(); }
+
+void MyDocument::openImageFile()
+{
+    m_dialogs.panels->choosePictureToOpen(picturesuffixes::all(), [this](const QString &path) {
+        m_graphView->openImageFile(QUrl::fromLocalFile(path));
+    });
+}
+
+void MyDocument::saveDataAs() { m_seriesExport->saveDataAs(); }
+
+void MyDocument::saveSelectionAs() { m_seriesExport->saveSelectionAs(); }
+
+void MyDocument::performClose() { m_window->close(); }
+
+void MyDocument::terminate() { m_services.terminate(); }
+
+void MyDocument::undo() { m_undoManager.undo(); }
+
+void MyDocument::redo() { m_undoManager.redo(); }
+
+void MyDocument::copy() { m_dataSeries->copySelection(); }
+
+void MyDocument::deleteSelection() { m_dataSeries->deleteSelection(); }
+
+void MyDocument::selectAll() { m_dataTableView->selectAll(); }
+
+void MyDocument::showAxisSetting()
+{
+    m_window->ui().actionSelectionTab->selectTab(ActionTab::axisSetting);
+}
+
+void MyDocument::showDigitizing()
+{
+    m_window->ui().actionSelectionTab->selectTab(ActionTab::digitizing);
+}
+
+void MyDocument::zoomToActualSize() { m_graphView->zoomToActualSize(); }
+
+void MyDocument::zoomIn() { m_graphView->zoomIn(); }
+
+void MyDocument::zoomOut() { m_graphView->zoomOut(); }
+
+void MyDocument::zoomToFitWidth() { m_graphView->zoomToFitWidth(); }
+
+void MyDocument::zoomToFitHeight() { m_graphView->zoomToFitHeight(); }
+
+void MyDocument::imageRotateCw() { m_graphView->imageRotateCw(); }
+
+void MyDocument::imageRotateCcw() { m_graphView->imageRotateCcw(); }
+
+void MyDocument::chooseParallelAxes() { chooseAxisType(0); }
+
+void MyDocument::chooseQuadrangleAxes() { chooseAxisType(1); }
+
+void MyDocument::choosePolarAxes() { chooseAxisType(2); }
+
+void MyDocument::chooseAxisType(int type)
+{
+    m_window->ui().axisTypePopup->setCurrentIndex(type);
+    m_currentAxes->axisTypeChanged();
+}
+
+void MyDocument::resetPosition() { m_currentAxes->resetPosition(CurrentAxes::Sender::Control); }
+
+void MyDocument::wholePosition() { m_currentAxes->wholePosition(CurrentAxes::Sender::Control); }
+
+void MyDocument::moveToNextSeries()
+{
+    if (!isInAxisSettingMode())
+        m_dataSeries->moveToNextSeries();
+}
+
+void MyDocument::moveToPrevSeries()
+{
+    if (!isInAxisSettingMode())
+        m_dataSeries->moveToPrevSeries();
+}
+
+void MyDocument::lockUnlockX()
+{
+    if (!isInAxisSettingMode())
+        m_cursorGuide->simulateLockX();
+}
+
+void MyDocument::lockUnlockY()
+{
+    if (!isInAxisSettingMode())
+        m_cursorGuide->simulateLockY();
+}
+
+void MyDocument::setDrawMarkers() { m_dataSeries->setDrawMarkers(); }
+
+void MyDocument::setDrawMarkersAndLines() { m_dataSeries->setDrawMarkersAndLines(); }
+
+void MyDocument::setDrawLines() { m_dataSeries->setDrawLines(); }
+
+void MyDocument::simulateToggleSort() { m_dataSeries->simulateToggleSort(); }
+
+void MyDocument::about()
+{
+    m_dialogs.sheets->present(
+        {texts::localized("document.about.title"),
+         texts::localized("document.about.text").arg(QCoreApplication::applicationVersion()),
+         texts::localized("OK"), QString()},
+        {});
+}
+
+void MyDocument::showHideDataTable()
+{
+    m_drawerOpenButtonState =
+        m_drawerOpenButtonState == drawerIsClosed ? drawerIsOpen : drawerIsClosed;
+    m_window->ui().dataTableDrawer->toggle();
+    drawerStateChanged();
+    showsChanged();
+}
+
+void MyDocument::drawerDidOpen()
+{
+    m_drawerOpenButtonState = drawerIsOpen;
+    drawerStateChanged();
+    showsChanged();
+}
+
+void MyDocument::drawerDidClose()
+{
+    m_drawerOpenButtonState = drawerIsClosed;
+    drawerStateChanged();
+    showsChanged();
+}
+
+void MyDocument::drawerStateChanged()
+{
+    const bool shown = m_drawerOpenButtonState != drawerIsClosed;
+    m_window->ui().drawerOpenButton->setChecked(shown);
+    m_services.sharedItems().showHideTable->setText(
+        texts::localized(shown ? "HideTable" : "ShowTable"));
+}
+
+void MyDocument::showTitle()
+{
+    m_window->setWindowTitle(displayName() + QStringLiteral("[*]"));
+    m_window->setWindowFilePath(m_fileUrl.toLocalFile());
+}

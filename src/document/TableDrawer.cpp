@@ -1,0 +1,171 @@
+#include "document/TableDrawer.h"
+
+#include "platform/Texts.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+constexpr int narrowestContent = 120;
+constexpr int widestContent = 1200;
+} // namespace
+
+/// The strip between picture and table: a click opens or closes the drawer, a drag changes its
+/// width.
+class TableDrawer::Handle : public QWidget
+{
+public:
+    explicit Handle(TableDrawer *drawer)
+        : QWidget(drawer)
+        , m_drawer(*drawer)
+    {
+        setFixedWidth(handleWidth);
+        setCursor(Qt::SplitHCursor);
+        setToolTip(texts::localized("document.table.handle.tip"));
+        setAccessibleName(texts::localized("document.view.table.name"));
+        setObjectName(QStringLiteral("drawerHandle"));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor line = palette().color(QPalette::WindowText);
+        line.setAlphaF(underMouse() ? 0.7F : 0.35F);
+        const qreal x = width() / 2.0;
+        const qreal y = height() / 2.0;
+        const qreal tip = m_drawer.isOpen() ? 2.0 : -2.0;
+        QPainterPath chevron;
+        chevron.moveTo(x - tip, y - 5);
+        chevron.lineTo(x + tip, y);
+        chevron.lineTo(x - tip, y + 5);
+        painter.setPen(QPen(line, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(chevron);
+    }
+
+    void enterEvent(QEnterEvent *) override { update(); }
+    void leaveEvent(QEvent *) override { update(); }
+
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        if (event->button() != Qt::LeftButton)
+            return;
+        m_pressedAt = event->globalPosition().toPoint().x();
+        m_lastX = m_pressedAt;
+        m_dragged = false;
+    }
+
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        if (!event->buttons().testFlag(Qt::LeftButton))
+            return;
+        const int x = event->globalPosition().toPoint().x();
+        m_dragged = m_dragged || std::abs(x - m_pressedAt) >= QApplication::startDragDistance();
+        if (!m_dragged || !m_drawer.isOpen())
+            return;
+        m_drawer.dragHandle(m_lastX - x);
+        m_lastX = x;
+    }
+
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        if (event->button() == Qt::LeftButton && !m_dragged)
+            m_drawer.toggle();
+    }
+
+private:
+    TableDrawer &m_drawer;
+    int m_pressedAt = 0;
+    int m_lastX = 0;
+    bool m_dragged = false;
+};
+
+TableDrawer::TableDrawer(QWidget *parent)
+    : QWidget(parent)
+    , m_layout(new QHBoxLayout(this))
+    , m_handle(new Handle(this))
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_handle);
+    setFixedWidth(handleWidth);
+}
+
+void TableDrawer::setContent(QWidget *content)
+{
+    m_content = content;
+    m_layout->addWidget(content, 1);
+    content->setVisible(m_isOpen);
+}
+
+void TableDrawer::open()
+{
+    if (m_isOpen)
+        return;
+    m_isOpen = true;
+    m_content->setVisible(true);
+    setFixedWidth(handleWidth + m_contentWidth);
+    widenWindow(m_contentWidth);
+    Q_EMIT didOpen();
+}
+
+void TableDrawer::close()
+{
+    if (!m_isOpen)
+        return;
+    m_isOpen = false;
+    m_content->setVisible(false);
+    setFixedWidth(handleWidth);
+    widenWindow(-m_contentWidth);
+    Q_EMIT didClose();
+}
+
+void TableDrawer::toggle()
+{
+    if (m_isOpen)
+        close();
+    else
+        open();
+}
+
+int TableDrawer::widthInWindow() const { return m_isOpen ? m_contentWidth : 0; }
+
+void TableDrawer::setContentWidth(int width)
+{
+    const int bounded = std::min(std::max(width, narrowestContent), widestContent);
+    if (m_isOpen) {
+        widenWindow(bounded - m_contentWidth);
+        setFixedWidth(handleWidth + bounded);
+    }
+    m_contentWidth = bounded;
+}
+
+// A maximised window keeps its size, and one at the screen's edge takes what is left; the picture
+// then gives up the rest of the width.
+void TableDrawer::widenWindow(int by)
+{
+    QWidget *top = window();
+    if (top->isMaximized() || top->isFullScreen())
+        return;
+    int width = top->width() + by;
+    if (const QScreen *screen = top->screen(); by > 0 && screen && top->isVisible()) {
+        const QRect available = screen->availableGeometry();
+        width = std::max(top->width(), std::min(width, available.right() + 1 - top->x()));
+    }
+    top->resize(width, top->height());
+}
+
+void TableDrawer::dragHandle(int by)
+{
+    const int bounded = std::min(std::max(m_contentWidth + by, narrowestContent), widestContent);
+    m_contentWidth = bounded;
+    setFixedWidth(handleWidth + bounded);
+}

@@ -1,0 +1,42 @@
+#include "document/WindowFrame.h"
+
+#include <gtest/gtest.h>
+
+using windowframe::placed;
+using windowframe::standardSize;
+
+TEST(WindowFrame, standardSizeLeavesTheFixedMargins)
+{
+    EXPECT_EQ(standardSize({600, 400}, {300, 200}), (FloatSize{637, 607}));
+}
+
+TEST(WindowFrame, standardSizeIsRaisedToTheMinimum)
+{
+    EXPECT_EQ(standardSize({600, 400}, {700, 500}), (FloatSize{700, 607}));
+    EXPECT_EQ(standardSize({600, 400}, {600, 800}), (FloatSize{637, 800}));
+}
+
+TEST(WindowFrame, theBottomLeftCornerStays)
+{
+    const QRect frame = placed({100, 300, 400, 200}, {500, 350}, {0, 0, 1280, 1024});
+    EXPECT_EQ(frame, QRect(100, 150, 500, 350));
+}
+
+TEST(WindowFrame, theTitleBarNeverLeavesTheScreen)
+{
+    const QRect frame = placed({100, 100, 400, 200}, {500, 700}, {0, 0, 1280, 1024});
+    EXPECT_EQ(frame.top(), 0);
+    EXPECT_EQ(frame.height(), 700);
+}
+
+TEST(WindowFrame, aFrameLargerThanTheScreenTakesTheScreen)
+{
+    EXPECT_EQ(placed({100, 100, 400, 200}, {3000, 2000}, {0, 20, 1280, 1000}),
+              QRect(0, 20, 1280, 1000));
+}
+
+TEST(WindowFrame, aFrameBesideTheScreenIsBroughtBack)
+{
+    EXPECT_EQ(placed({1200, 300, 400, 200}, {400, 200}, {0, 0, 1280, 1024}),
+              QRect(880, 300, 400, 200));
+}

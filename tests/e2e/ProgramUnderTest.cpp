@@ -1,0 +1,158 @@
+#include "e2e/ProgramUnderTest.h"
+
+#include <QColor>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QProcessEnvironment>
+#include <QRect>
+#include <QScreen>
+#include <QTest>
+
+#include <cmath>
+
+namespace {
+
+constexpr int patience = 20000; // milliseconds
+constexpr QSize patchSize(60, 18);
+
+/// The part of the picture by which it is recognised: around its first dark pixel, which belongs
+/// to the title.
+QRect patchOf(const QImage &picture)
+{
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width() - patchSize.width(); ++x)
+            if (qGray(picture.pixel(x, y)) < 64)
+                return {QPoint(x, y), patchSize};
+    return {};
+}
+
+bool looksAlike(const QImage &screen, QPoint at, const QImage &picture, const QRect &patch)
+{
+    for (int y = 0; y < patch.height(); ++y)
+        for (int x = 0; x < patch.width(); ++x) {
+            const int seen = qGray(screen.pixel(at.x() + x, at.y() + y));
+            const int wanted = qGray(picture.pixel(patch.x() + x, patch.y() + y));
+            if (std::abs(seen - wanted) > 12)
+                return false;
+        }
+    return true;
+}
+
+} // namespace
+
+ProgramUnderTest::ProgramUnderTest(const QString &picturePath)
+    : m_picturePath(picturePath)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath("config"));
+    m_process.setProcessEnvironment(environment);
+    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_process.start(QStringLiteral(CURVEGRAB_PROGRAM), {picturePath});
+}
+
+ProgramUnderTest::~ProgramUnderTest()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+std::optional<QPoint> ProgramUnderTest::findPictureOnScreen() const
+{
+    const QImage picture(m_picturePath);
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    const QRect patch = patchOf(picture);
+    for (int y = 0; y < screen.height() - patch.height(); ++y)
+        for (int x = 0; x < screen.width() - patch.width(); ++x)
+            if (looksAlike(screen, {x, y}, picture, patch))
+                return QPoint(x, y) - patch.topLeft();
+    return std::nullopt;
+}
+
+bool ProgramUnderTest::waitForPicture()
+{
+    m_pictureHeight = QImage(m_picturePath).height();
+    std::optional<QPoint> before;
+    // The window manager may move the window once more: it stands when two looks agree.
+    return QTest::qWaitFor(
+        [this, &before] {
+            const std::optional<QPoint> now = findPictureOnScreen();
+            const bool stands = now && now == before;
+            before = now;
+            m_pictureTopLeft = now.value_or(QPoint());
+            QTest::qWait(100);
+            return stands;
+        },
+        patience);
+}
+
+QPoint ProgramUnderTest::onScreen(QPointF point) const
+{
+    return m_pictureTopLeft + QPoint(static_cast<int>(std::lround(point.x())),
+                                     static_cast<int>(std::lround(m_pictureHeight - point.y())));
+}
+
+void ProgramUnderTest::xdotool(const QStringList &arguments)
+{
+    QProcess::execute(QStringLiteral("xdotool"), arguments);
+}
+
+void ProgramUnderTest::move(QPoint screenPosition)
+{
+    xdotool({"mousemove", "--sync", QString::number(screenPosition.x()),
+             QString::number(screenPosition.y())});
+}
+
+void ProgramUnderTest::click(QPointF point)
+{
+    move(onScreen(point));
+    xdotool({"click", "1"});
+}
+
+void ProgramUnderTest::drag(QPointF from, QPointF to)
+{
+    move(onScreen(from));
+    xdotool({"mousedown", "1"});
+    move(onScreen((from + to) / 2));
+    move(onScreen(to));
+    xdotool({"mouseup", "1"});
+}
+
+void ProgramUnderTest::key(const QString &combination)
+{
+    xdotool({"key", "--clearmodifiers", combination});
+}
+
+void ProgramUnderTest::type(const QString &text) { xdotool({"type", "--delay", "2", text}); }
+
+void ProgramUnderTest::enter(const QString &mnemonic, const QString &text)
+{
+    key(mnemonic);
+    key(QStringLiteral("ctrl+a"));
+    type(text);
+    key(QStringLiteral("Return"));
+}
+
+std::vector<std::vector<double>> ProgramUnderTest::savedData()
+{
+    const QString path = m_folder.filePath("data.txt");
+    key(QStringLiteral("ctrl+s"));
+    QTest::qWait(700); // the file chooser opens; nothing on the screen says that it listens
+    type(path);
+    key(QStringLiteral("Return"));
+    if (!QTest::qWaitFor([&path] { return QFile::exists(path); }, patience))
+        return {};
+    QFile file(path);
+    std::vector<std::vector<double>> rows;
+    if (!file.open(QIODevice::ReadOnly))
+        return rows;
+    file.readLine(); // the titles
+    while (!file.atEnd()) {
+        std::vector<double> row;
+        for (const QByteArray &cell : file.readLine().trimmed().split('\t'))
+            row.push_back(cell.toDouble());
+        rows.push_back(row);
+    }
+    return rows;
+}

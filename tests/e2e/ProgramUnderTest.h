@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QPoint>
+#include <QPointF>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <optional>
+#include <vector>
+
+/// The program in a process of its own, seen as a user sees it: by what is on the screen, and
+/// driven by the mouse and the keyboard of the X server.
+class ProgramUnderTest
+{
+public:
+    /// Starts the program on a picture; it gets a configuration folder of its own.
+    explicit ProgramUnderTest(const QString &picturePath);
+    ~ProgramUnderTest();
+
+    /// Waits until the whole picture is on the screen at actual size; false after a while.
+    [[nodiscard]] bool waitForPicture();
+
+    /// Points are in picture coordinates: pixels from the bottom left.
+    void click(QPointF point);
+    void drag(QPointF from, QPointF to);
+
+    /// Presses a key combination such as "ctrl+2".
+    void key(const QString &combination);
+    /// Types into whatever has the focus.
+    void type(const QString &text);
+    /// Focuses the field behind an Alt mnemonic, replaces its text and presses Return.
+    void enter(const QString &mnemonic, const QString &text);
+
+    /// The rows of numbers that the save command writes; empty if no file came.
+    [[nodiscard]] std::vector<std::vector<double>> savedData();
+
+private:
+    [[nodiscard]] std::optional<QPoint> findPictureOnScreen() const;
+    [[nodiscard]] QPoint onScreen(QPointF point) const;
+    void move(QPoint screenPosition);
+    static void xdotool(const QStringList &arguments);
+
+    QString m_picturePath;
+    QTemporaryDir m_folder;
+    QProcess m_process;
+    QPoint m_pictureTopLeft;
+    int m_pictureHeight = 0;
+};
