@@ -15,8 +15,10 @@
 #include "ui_MyDocument.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QFileInfo>
 #include <QScreen>
+#include <QWindow>
 
 #include <utility>
 
@@ -125,7 +127,21 @@ void MyDocument::openPicture(const QUrl &url)
 {
     m_fileUrl = url;
     showTitle();
-    m_graphView->openImageFile(url);
+    QWindow *onScreen = m_window->windowHandle();
+    if (onScreen == nullptr || onScreen->isExposed())
+        m_graphView->openImageFile(url);
+    else
+        onScreen->installEventFilter(this);
+}
+
+bool MyDocument::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
+        watched->removeEventFilter(this);
+        QMetaObject::invokeMethod(
+            this, [this] { m_graphView->openImageFile(m_fileUrl); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 CurvegrabPrefs &MyDocument::prefs() const { return m_services.prefs(); }

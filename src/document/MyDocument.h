@@ -43,7 +43,8 @@ public:
 
     /// Shows the window of a new, empty document.
     void showWindow();
-    /// Opens the picture file that this document is made from.
+    /// Opens the picture file that this document is made from, as soon as the window is on the
+    /// screen: only then its frame is known, which belongs to the window's size.
     void openPicture(const QUrl &url);
 
     [[nodiscard]] DocumentWindow &window() const { return *m_window; }
@@ -140,6 +141,9 @@ public Q_SLOTS:
     void zoomWindow();
     void about();
     void showHideDataTable();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void makeComponents();

@@ -93,7 +93,7 @@ TableDrawer::TableDrawer(QWidget *parent)
     , m_handle(new Handle(this))
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setContentsMargins(0, 6, 0, 2);
     m_layout->setSpacing(0);
     m_layout->addWidget(m_handle);
     setFixedWidth(handleWidth);

@@ -661,5 +661,9 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message id="document.data.sort.tip">
+        <source>Keep the points of every series in ascending order</source>
+        <translation>Keep the points of every series in ascending order</translation>
+    </message>
 </context>
 </TS>
