@@ -236,6 +236,8 @@ void DataTableView::moveCurrentColumn(int step, Qt::KeyboardModifiers modifiers)
 
 bool DataTableView::scrollByKey(int key)
 {
+    // New rows may not have reached the scroll bar yet.
+    executeDelayedItemsLayout();
     switch (key) {
     case Qt::Key_Up:
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
