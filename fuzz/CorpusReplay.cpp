@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <vector>
+
+// Runs a fuzz target without a fuzzer: over the inputs that are kept in its corpus, over seeded
+// variations of them and over seeded random bytes. A target that finds a fault aborts.
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int variationsPerFile = 500;
+constexpr int randomInputs = 5000;
+constexpr std::size_t longestRandomInput = 400;
+
+Bytes contentOf(const std::filesystem::path &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::vector<Bytes> corpus()
+{
+    std::vector<std::filesystem::path> paths;
+    for (const auto &entry : std::filesystem::directory_iterator(CURVEGRAB_CORPUS))
+        paths.push_back(entry.path());
+    std::sort(paths.begin(), paths.end());
+    std::vector<Bytes> inputs;
+    for (const auto &path : paths)
+        inputs.push_back(contentOf(path));
+    return inputs;
+}
+
+void run(const Bytes &input) { EXPECT_EQ(LLVMFuzzerTestOneInput(input.data(), input.size()), 0); }
+
+std::size_t dice(std::mt19937_64 &random, std::size_t count)
+{
+    return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+}
+
+std::uint8_t randomByte(std::mt19937_64 &random)
+{
+    return static_cast<std::uint8_t>(dice(random, 256));
+}
+
+/// `input` with up to four bytes changed, put in or taken out, and sometimes cut.
+Bytes varied(Bytes input, std::mt19937_64 &random)
+{
+    const std::size_t changes = 1 + dice(random, 4);
+    for (std::size_t i = 0; i < changes; ++i) {
+        const auto place =
+            input.begin() + static_cast<std::ptrdiff_t>(dice(random, input.size() + 1));
+        const std::size_t kind = dice(random, 3);
+        if (kind == 0 || place == input.end())
+            input.insert(place, randomByte(random));
+        else if (kind == 1)
+            *place = randomByte(random);
+        else
+            input.erase(place);
+    }
+    if (dice(random, 8) == 0)
+        input.resize(dice(random, input.size() + 1));
+    return input;
+}
+
+} // namespace
+
+TEST(CorpusReplay, keptInputsAreSurvived)
+{
+    const std::vector<Bytes> inputs = corpus();
+    ASSERT_FALSE(inputs.empty());
+    for (const Bytes &input : inputs)
+        run(input);
+}
+
+TEST(CorpusReplay, keptInputsCutAnywhereAreSurvived)
+{
+    for (const Bytes &input : corpus()) {
+        for (std::size_t length = 0; length < input.size(); ++length)
+            run(Bytes(input.begin(), input.begin() + static_cast<std::ptrdiff_t>(length)));
+    }
+}
+
+TEST(CorpusReplay, variationsOfKeptInputsAreSurvived)
+{
+    std::mt19937_64 random(21);
+    for (const Bytes &input : corpus()) {
+        for (int i = 0; i < variationsPerFile; ++i)
+            run(varied(input, random));
+    }
+}
+
+TEST(CorpusReplay, randomInputsAreSurvived)
+{
+    std::mt19937_64 random(22);
+    for (int i = 0; i < randomInputs; ++i) {
+        Bytes input(dice(random, longestRandomInput));
+        for (std::uint8_t &byte : input)
+            byte = randomByte(random);
+        run(input);
+    }
+}
