@@ -1,5 +1,6 @@
 #include "platform/NumberText.h"
 
+#include "geometry/GeneralFormat.h"
 #include "platform/DecimalText.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace numbertext {
 
 namespace {
-
-constexpr int defaultDigits = 6;
 
 /// Enough for the 309 digits before the point, a sign, the point and an exponent.
 constexpr int charactersBesidesDigits = 330;
@@ -36,7 +35,7 @@ std::string withoutLeadingBlanks(const QString &text)
 
 } // namespace
 
-std::string general(double value) { return general(value, defaultDigits); }
+std::string general(double value) { return generalformat::general(value); }
 
 std::string general(double value, int digits)
 {

@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -28,6 +33,27 @@ protected:
     void keyPressEvent(QKeyEvent *) override { change(); }
     void wheelEvent(QWheelEvent *) override { change(); }
 };
+
+/// A window that takes every event and does nothing.
+class QuietWindow : public QWindow
+{
+protected:
+    bool event(QEvent *) override { return true; }
+};
+
+/// Delivers `event` to a window as the window system does.
+void deliver(QEvent &event)
+{
+    QuietWindow window;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&window, &event);
+}
+
+QMouseEvent mouse(QEvent::Type type)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    return {type, QPointF(1, 1), QPointF(1, 1), button, button, Qt::NoModifier};
+}
 
 class UndoManagerEventsTest : public testing::Test
 {
@@ -100,6 +126,53 @@ TEST_F(UndoManagerEventsTest, twoKeysInOnePassAreTwoGroups)
     QTest::keyClick(native(), Qt::Key_B);
     QCoreApplication::processEvents();
     EXPECT_EQ(m_counted.count(), 2);
+}
+
+TEST_F(UndoManagerEventsTest, everyDeedOfTheMouseClosesTheGroup)
+{
+    int closed = 0;
+    for (const auto type :
+         {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick}) {
+        change();
+        QMouseEvent event = mouse(type);
+        deliver(event);
+        EXPECT_EQ(m_counted.count(), ++closed) << type;
+    }
+}
+
+TEST_F(UndoManagerEventsTest, movingTheMouseKeepsTheGroupOpen)
+{
+    change();
+    QMouseEvent event = mouse(QEvent::MouseMove);
+    deliver(event);
+    EXPECT_EQ(m_counted.count(), 0);
+}
+
+TEST_F(UndoManagerEventsTest, aTurnOfTheWheelClosesTheGroup)
+{
+    change();
+    QWheelEvent event(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    deliver(event);
+    EXPECT_EQ(m_counted.count(), 1);
+}
+
+TEST_F(UndoManagerEventsTest, aContextMenuClosesTheGroup)
+{
+    change();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+    deliver(event);
+    EXPECT_EQ(m_counted.count(), 1);
+}
+
+TEST_F(UndoManagerEventsTest, aDropClosesTheGroup)
+{
+    change();
+    const QMimeData data;
+    QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QuietWindow window;
+    QCoreApplication::sendEvent(&window, &event);
+    EXPECT_EQ(m_counted.count(), 1);
 }
 
 TEST_F(UndoManagerEventsTest, anEventSentByTheProgramBeginsNoGroup)
