@@ -35,7 +35,6 @@ GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     setAccessibleName(texts::localized("imageview.view.name"));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAttribute(Qt::WA_NoMousePropagation);
     m_mouseCheckTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_mouseCheckTimer, &QTimer::timeout, this, &GraphImageView::mouseCheckRoutine);
     connect(&scrollArea, &PictureScrollArea::zoomRequested, this, &GraphImageView::zoomAbout);

