@@ -35,8 +35,7 @@ std::vector<Bytes> corpus()
         paths.push_back(entry.path());
     std::sort(paths.begin(), paths.end());
     std::vector<Bytes> inputs;
-    for (const auto &path : paths)
-        inputs.push_back(contentOf(path));
+    std::transform(paths.begin(), paths.end(), std::back_inserter(inputs), contentOf);
     return inputs;
 }
 
