@@ -41,7 +41,7 @@ set tmargin at screen 0.90
 set xrange [-10:10]
 set yrange [-10:10]
 set rrange [0:10]
-set grid polar 30 linecolor "#dddddd"
+set grid polar 30 linetype 1 linewidth 0.7 linecolor "#bbbbbb"
 unset border
 unset xtics
 unset ytics

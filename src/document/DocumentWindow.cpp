@@ -9,6 +9,8 @@
 #include <QCloseEvent>
 #include <QEvent>
 
+#include <algorithm>
+
 DocumentWindow::DocumentWindow(MyDocument &document)
     : m_document(document)
     , m_ui(std::make_unique<Ui::MyDocument>())
@@ -25,6 +27,28 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);
     connect(m_emptyHint, &EmptyPictureHint::openRequested, &m_document, &MyDocument::openImageFile);
     applyIcons();
+    keepPlacesOfBoxes();
+    keepSizeWithoutPicture();
+}
+
+// The boxes of the X axis and of the angle take turns in one place.
+void DocumentWindow::keepPlacesOfBoxes()
+{
+    const int width =
+        std::max(m_ui->xAxisBox->sizeHint().width(), m_ui->tAxisBox->sizeHint().width());
+    m_ui->xAxisBox->setFixedWidth(width);
+    m_ui->tAxisBox->setFixedWidth(width);
+    m_ui->tAxisBox->hide();
+}
+
+// The window's smallest size is the same with and without a picture, so that a picture that
+// comes in finds the window as it will stay.
+void DocumentWindow::keepSizeWithoutPicture()
+{
+    const QSize controls = m_ui->actionSelectionTab->minimumSizeHint();
+    const QMargins margins = m_ui->mainColumn->layout()->contentsMargins();
+    m_ui->mainColumn->setMinimumWidth(controls.width() + margins.left() + margins.right());
+    m_ui->noImageTab->setMinimumHeight(controls.height());
 }
 
 DocumentWindow::~DocumentWindow() = default;

@@ -39,6 +39,8 @@ protected:
 
 private:
     void applyIcons();
+    void keepPlacesOfBoxes();
+    void keepSizeWithoutPicture();
 
     MyDocument &m_document;
     const std::unique_ptr<Ui::MyDocument> m_ui;

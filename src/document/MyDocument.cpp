@@ -236,8 +236,8 @@ void MyDocument::runPostponedCommands()
 FloatSize MyDocument::windowWillUseStandardFrame() const
 {
     const QSize decoration = m_window->frameGeometry().size() - m_window->size();
-    const QSize smallest =
-        m_window->minimumSize().expandedTo(m_window->minimumSizeHint()) + decoration;
+    QSize smallest = m_window->minimumSize().expandedTo(m_window->minimumSizeHint()) + decoration;
+    smallest.rwidth() -= m_window->ui().dataTableDrawer->widthInWindow();
     const FloatSize view{static_cast<float>(m_graphView->width()),
                          static_cast<float>(m_graphView->height())};
     return windowframe::standardSize(view, sizeOf(smallest));

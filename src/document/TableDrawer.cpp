@@ -111,9 +111,10 @@ void TableDrawer::open()
     if (m_isOpen)
         return;
     m_isOpen = true;
+    m_contentWidth = std::min(m_contentWidth, std::max(widthLeftOnScreen(), narrowestContent));
     m_content->setVisible(true);
     setFixedWidth(handleWidth + m_contentWidth);
-    widenWindow(m_contentWidth);
+    m_takenWidth = widenWindow(m_contentWidth);
     Q_EMIT didOpen();
 }
 
@@ -124,7 +125,7 @@ void TableDrawer::close()
     m_isOpen = false;
     m_content->setVisible(false);
     setFixedWidth(handleWidth);
-    widenWindow(-m_contentWidth);
+    widenWindow(-m_takenWidth);
     Q_EMIT didClose();
 }
 
@@ -142,25 +143,34 @@ void TableDrawer::setContentWidth(int width)
 {
     const int bounded = std::min(std::max(width, narrowestContent), widestContent);
     if (m_isOpen) {
-        widenWindow(bounded - m_contentWidth);
+        m_takenWidth += widenWindow(bounded - m_contentWidth);
         setFixedWidth(handleWidth + bounded);
     }
     m_contentWidth = bounded;
 }
 
+// What a screen has left beside the narrowest window without the drawer.
+int TableDrawer::widthLeftOnScreen() const
+{
+    const QScreen *screen = window()->screen();
+    return screen->availableGeometry().width() - window()->minimumSizeHint().width();
+}
+
 // A maximised window keeps its size, and one at the screen's edge takes what is left; the picture
 // then gives up the rest of the width.
-void TableDrawer::widenWindow(int by)
+int TableDrawer::widenWindow(int by)
 {
     QWidget *top = window();
     if (top->isMaximized() || top->isFullScreen())
-        return;
+        return 0;
     int width = top->width() + by;
-    if (const QScreen *screen = top->screen(); by > 0 && screen && top->isVisible()) {
-        const QRect available = screen->availableGeometry();
+    if (by > 0 && top->isVisible()) {
+        const QRect available = top->screen()->availableGeometry();
         width = std::max(top->width(), std::min(width, available.right() + 1 - top->x()));
     }
+    const int before = top->width();
     top->resize(width, top->height());
+    return top->width() - before;
 }
 
 void TableDrawer::dragHandle(int by)

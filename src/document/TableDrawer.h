@@ -43,12 +43,14 @@ Q_SIGNALS:
 private:
     class Handle;
 
-    void widenWindow(int by);
+    [[nodiscard]] int widthLeftOnScreen() const;
+    int widenWindow(int by);
     void dragHandle(int by);
 
     QHBoxLayout *m_layout;
     Handle *m_handle;
     QWidget *m_content = nullptr;
     int m_contentWidth = standardWidth - handleWidth;
+    int m_takenWidth = 0; ///< by how much opening has widened the window
     bool m_isOpen = false;
 };

@@ -62,6 +62,7 @@ bool UserDefaults::synchronize()
     m_fileIsDamaged = false;
     QSaveFile file(m_filePath);
     const QByteArray text = QJsonDocument(m_values).toJson();
-    // Committing flushes to the disk before the new file takes the old one's place.
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+    // Flushed apart from commit(), which does not tell of a disk that is full only then.
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+           file.commit();
 }

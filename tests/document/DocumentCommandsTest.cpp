@@ -100,7 +100,7 @@ TEST(DocumentCommands, aBadValueThenTheOtherTabComesBackToTheField)
 {
     TestDocument test;
     Ui::MyDocument &ui = test.ui();
-    QTest::mouseClick(ui.logXCheck, Qt::LeftButton);
+    QTest::keyClick(ui.logXCheck, Qt::Key_Space);
     test.services.sheets->answerAll();
     test.services.sheets->forget();
     ui.minXTextField->setFocus();
@@ -182,7 +182,7 @@ TEST(DocumentCommands, newAndQuitGoToTheApplication)
 
 TEST(DocumentCommands, openingAsksForAPictureAndTakesIt)
 {
-    TestDocument test({});
+    TestDocument test{QSize(0, 0)};
     const QTemporaryDir folder;
     QImage picture(400, 300, QImage::Format_RGB32);
     picture.fill(Qt::white);

@@ -70,7 +70,7 @@ TEST(DocumentTexts, noBareKeyShowsForAnyKindOfAxes)
 
 TEST(DocumentTexts, noBareKeyShowsWithoutAPicture)
 {
-    const TestDocument test({});
+    const TestDocument test{QSize(0, 0)};
     const QStringList keys = keysIn(textsOf(test.document->window()));
     EXPECT_TRUE(keys.isEmpty()) << keys.join(", ").toStdString();
 }

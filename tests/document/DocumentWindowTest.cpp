@@ -9,7 +9,7 @@
 
 TEST(DocumentWindow, aNewDocumentShowsTheTable)
 {
-    const TestDocument test({});
+    const TestDocument test{QSize(0, 0)};
     EXPECT_EQ(test.document->drawerOpenButtonState(), 0);
     EXPECT_TRUE(test.ui().dataTableDrawer->isOpen());
 }
@@ -58,7 +58,7 @@ TEST(DocumentWindow, aPictureAtTheStandardFrameIsSeenWhole)
 
 TEST(DocumentWindow, withoutPictureThePlaceholderStandsForTheTab)
 {
-    const TestDocument test({});
+    const TestDocument test{QSize(0, 0)};
     EXPECT_TRUE(test.ui().noImageTab->isVisible());
     EXPECT_FALSE(test.ui().actionSelectionTab->isVisible());
 }

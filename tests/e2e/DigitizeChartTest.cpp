@@ -82,12 +82,12 @@ TEST(DigitizeChart, parallelLogarithmicAxesGiveTheFormulaBack)
     program.drag(start.one, {100, 84});
     program.drag({800, 84}, {950, 84});
     program.drag({100, 560}, {100, 658});
-    program.enter("alt+x", "1000");
     program.enter("alt+i", "1");
-    program.enter("alt+m", "10000");
+    program.enter("alt+x", "1000");
+    program.toggleNextCheckBox();
     program.enter("alt+n", "0.1");
-    program.key("alt+g");
-    program.key("alt+l");
+    program.enter("alt+m", "10000");
+    program.toggleNextCheckBox();
     program.key("ctrl+2");
     const auto yOf = [](double x) { return 8000 * std::pow(x, -1.2); };
     const auto xOf = [](int i) { return std::pow(10, 0.1 + 0.14 * i); };

@@ -81,7 +81,6 @@ bool ProgramUnderTest::waitForPicture()
             const bool stands = now && now == before;
             before = now;
             m_pictureTopLeft = now.value_or(QPoint());
-            QTest::qWait(100);
             return stands;
         },
         patience);
@@ -96,6 +95,14 @@ QPoint ProgramUnderTest::onScreen(QPointF point) const
 void ProgramUnderTest::xdotool(const QStringList &arguments)
 {
     QProcess::execute(QStringLiteral("xdotool"), arguments);
+}
+
+QByteArray ProgramUnderTest::activeWindow()
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), {"getactivewindow"});
+    process.waitForFinished();
+    return process.readAllStandardOutput().trimmed();
 }
 
 void ProgramUnderTest::move(QPoint screenPosition)
@@ -124,7 +131,7 @@ void ProgramUnderTest::key(const QString &combination)
     xdotool({"key", "--clearmodifiers", combination});
 }
 
-void ProgramUnderTest::type(const QString &text) { xdotool({"type", "--delay", "2", text}); }
+void ProgramUnderTest::type(const QString &text) { xdotool({"type", "--delay", "2", "--", text}); }
 
 void ProgramUnderTest::enter(const QString &mnemonic, const QString &text)
 {
@@ -134,11 +141,19 @@ void ProgramUnderTest::enter(const QString &mnemonic, const QString &text)
     key(QStringLiteral("Return"));
 }
 
+void ProgramUnderTest::toggleNextCheckBox()
+{
+    key(QStringLiteral("Tab"));
+    key(QStringLiteral("space"));
+}
+
 std::vector<std::vector<double>> ProgramUnderTest::savedData()
 {
     const QString path = m_folder.filePath("data.txt");
+    const QByteArray mainWindow = activeWindow();
     key(QStringLiteral("ctrl+s"));
-    QTest::qWait(700); // the file chooser opens; nothing on the screen says that it listens
+    if (!QTest::qWaitFor([&mainWindow] { return activeWindow() != mainWindow; }, patience))
+        return {};
     type(path);
     key(QStringLiteral("Return"));
     if (!QTest::qWaitFor([&path] { return QFile::exists(path); }, patience))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QPoint>
 #include <QPointF>
 #include <QProcess>
@@ -26,6 +27,9 @@ public:
     void click(QPointF point);
     void drag(QPointF from, QPointF to);
 
+    /// Switches the check box after the field that was entered last.
+    void toggleNextCheckBox();
+
     /// Presses a key combination such as "ctrl+2".
     void key(const QString &combination);
     /// Types into whatever has the focus.
@@ -40,6 +44,8 @@ private:
     [[nodiscard]] std::optional<QPoint> findPictureOnScreen() const;
     [[nodiscard]] QPoint onScreen(QPointF point) const;
     void move(QPoint screenPosition);
+    /// The id of the window that has the focus, as text.
+    [[nodiscard]] static QByteArray activeWindow();
     static void xdotool(const QStringList &arguments);
 
     QString m_picturePath;

@@ -243,9 +243,9 @@
         <source>From the pointer</source>
         <translation>From the pointer</translation>
     </message>
-    <message id="document.data.autox.step">
-        <source>In equal steps</source>
-        <translation>In equal steps</translation>
+    <message id="document.data.autox.series1">
+        <source>As in series 1</source>
+        <translation>As in series 1</translation>
     </message>
     <message id="document.data.initial">
         <source>&amp;Start</source>
