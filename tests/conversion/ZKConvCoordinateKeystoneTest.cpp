@@ -368,9 +368,11 @@ TEST(ZKConvCoordinateKeystone, identicalInputGivesEqualConverters)
 
 TEST(ZKConvCoordinateKeystone, originValueIsComparedExactly)
 {
-    EXPECT_FALSE(keystone(trapezoid, {1e-12, 10})->isEqualConverterAs(*keystone(trapezoid)));
-    EXPECT_FALSE(
-        keystone(trapezoid)->isEqualConverterAs(*keystone(trapezoid, {0, 10}, {-1e-12, 10})));
+    // The units of the two differ far less than the tolerance, and so do the origin values.
+    const Keystone converter = keystone(trapezoid, {1, 10}, {1, 10});
+    EXPECT_FALSE(converter->isEqualConverterAs(*keystone(trapezoid, {1 + 1e-9, 10}, {1, 10})));
+    EXPECT_FALSE(converter->isEqualConverterAs(*keystone(trapezoid, {1, 10}, {1 + 1e-9, 10})));
+    EXPECT_TRUE(converter->isEqualConverterAs(*keystone(trapezoid, {1, 10 + 1e-9}, {1, 10})));
 }
 
 TEST(ZKConvCoordinateKeystone, unitsAreComparedWithinTheTolerance)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 using namespace sampleconverters;
 
@@ -115,6 +116,21 @@ TEST(ZKConvCoordinatePolar, clockwiseMirrorsTheAngles)
     const Polar converter = polar(linear, 0, false);
     EXPECT_DOUBLE_EQ(from(converter, 100, 50).X(), 90);
     EXPECT_DOUBLE_EQ(from(converter, 100, 150).X(), 270);
+}
+
+TEST(ZKConvCoordinatePolar, angleIsMeasuredFromTheUnitAndClockwiseToTheUnit)
+{
+    // The two angles differ in their last bits: the lengths divide in another order.
+    std::mt19937_64 random(7);
+    std::uniform_real_distribution<double> coordinate(-300, 700);
+    const Polar ccw = polar({0, 7}, 3, true);
+    const Polar cw = polar({0, 7}, 3, false);
+    for (int i = 0; i < 1000; ++i) {
+        const ZKVector point = vector(coordinate(random), coordinate(random));
+        const ZKVector fromCenter = point.subVector(vector(100, 100));
+        ASSERT_EQ(ccw->convertFromCartesian(point)->X(), ccw->unitR()->angle(fromCenter));
+        ASSERT_EQ(cw->convertFromCartesian(point)->X(), fromCenter.angle(*cw->unitR()));
+    }
 }
 
 TEST(ZKConvCoordinatePolar, rangeCodesSetUnitAndOffset)
