@@ -280,7 +280,10 @@ void DataTableView::paintEvent(QPaintEvent *event)
     if (m_model->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Not every palette has a placeholder colour of its own; half of the text's always fits.
+    QColor color = palette().color(QPalette::Text);
+    color.setAlphaF(0.5F);
+    painter.setPen(color);
     painter.drawText(
         viewport()->rect().adjusted(cellPadding, cellPadding, -cellPadding, -cellPadding),
         Qt::AlignCenter | Qt::TextWordWrap, texts::localized("capture.table.empty"));

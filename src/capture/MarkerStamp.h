@@ -12,22 +12,22 @@
 class QPainter;
 
 /// A small picture that is put at many places of a raster surface: drawn once, then copied. Places
-/// count to an eighth of a pixel, for each of which the picture is drawn when it is first needed.
+/// count to a quarter of a pixel, for each of which the picture is drawn when it is first needed.
 class MarkerStamp
 {
 public:
     /// Draws the picture about a centre.
     using Drawing = std::function<void(QPainter &painter, QPointF centre)>;
 
-    /// `reach` is how far the drawing goes from its centre, in pixels. Where `opaque`, a second
-    /// copy at the same place is left out.
+    /// `reach` is how far the drawing goes from its centre, in pixels. Where `opaque`, a copy
+    /// that nobody could tell from the one before is left out.
     MarkerStamp(Drawing drawing, double reach, bool opaque);
 
     /// Puts the picture at `centre`; the painter counts in pixels.
     void putAt(QPainter &painter, QPointF centre);
 
 private:
-    static constexpr int steps = 8; ///< places within a pixel, in either direction
+    static constexpr int steps = 4; ///< places within a pixel, in either direction
 
     [[nodiscard]] const QImage &imageFor(int stepX, int stepY);
 

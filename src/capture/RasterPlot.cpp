@@ -7,17 +7,17 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace {
 
-/// Steps of the line that are shorter, in pixels, are not seen.
-constexpr double shortestStep = 0.25;
-/// How far the middle of a thin outline goes beyond its width, for antialiasing.
+/// How far, in pixels, a line may pass from a point that was left out.
+constexpr double tolerance = 0.125;
+/// The rim that antialiasing adds to an outline.
 constexpr double softEdge = 1;
-
-double distance(QPointF a, QPointF b) { return std::hypot(b.x() - a.x(), b.y() - a.y()); }
 
 bool isFinite(QPointF p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
 
@@ -64,6 +64,56 @@ std::optional<QLineF> clipped(QPointF a, QPointF b, const QRectF &rect)
     return QLineF(from, to);
 }
 
+/// The straight lines from one point that pass all points since then within the tolerance.
+class LineOfSight
+{
+public:
+    explicit LineOfSight(QPointF from)
+        : m_from(from)
+    {}
+
+    /// Whether a straight line to `point` passes the points before it; it is one of them then.
+    [[nodiscard]] bool reaches(QPointF point)
+    {
+        const QPointF step = point - m_from;
+        if (!m_hasDirection)
+            return startsWith(step);
+        const double along = QPointF::dotProduct(m_direction, step);
+        const double across = m_direction.x() * step.y() - m_direction.y() * step.x();
+        // What turns back is a corner.
+        if (along < m_farthest || across < m_lowest * along || across > m_highest * along)
+            return false;
+        narrow(along, across);
+        return true;
+    }
+
+private:
+    bool startsWith(QPointF step)
+    {
+        const double length = std::hypot(step.x(), step.y());
+        if (length > tolerance) {
+            m_hasDirection = true;
+            m_direction = step / length;
+            narrow(length, 0);
+        }
+        return true;
+    }
+
+    void narrow(double along, double across)
+    {
+        m_farthest = along;
+        m_lowest = std::max(m_lowest, (across - tolerance) / along);
+        m_highest = std::min(m_highest, (across + tolerance) / along);
+    }
+
+    QPointF m_from;
+    QPointF m_direction;
+    bool m_hasDirection = false;
+    double m_farthest = 0;
+    double m_lowest = -std::numeric_limits<double>::infinity(); ///< slopes against the direction
+    double m_highest = std::numeric_limits<double>::infinity();
+};
+
 } // namespace
 
 bool RasterPlot::suits(const QPainter &painter)
@@ -104,7 +154,7 @@ RasterPlot::~RasterPlot() { m_painter.restore(); }
 void RasterPlot::drawMarkers(const std::vector<QPointF> &points)
 {
     const double size = double(m_style.size) * m_pixels;
-    const double reach = (size + m_pen.widthF()) * 0.5 + softEdge;
+    const double reach = (size + m_pen.widthF()) * 0.5;
     const QRectF visible = m_visible.adjusted(-reach, -reach, reach, reach);
     const auto drawing = [this, size](QPainter &painter, QPointF centre) {
         painter.setPen(m_pen);
@@ -130,7 +180,7 @@ void RasterPlot::drawLine(const std::vector<QPointF> &points)
     }
     const double reach = m_pen.widthF() * 0.5 + softEdge;
     const std::vector<QPolygonF> parts =
-        visibleParts(pixels, m_visible.adjusted(-reach, -reach, reach, reach));
+        visibleParts(thinned(pixels), m_visible.adjusted(-reach, -reach, reach, reach));
     if (m_opaque) {
         strokeInPieces(parts);
         return;
@@ -150,7 +200,7 @@ void RasterPlot::strokeInPieces(const std::vector<QPolygonF> &parts)
         painter.setBrush(m_pen.brush());
         painter.drawEllipse(centre, radius, radius);
     };
-    MarkerStamp joint(disc, radius + softEdge, true);
+    MarkerStamp joint(disc, radius, true);
     QPen flat = m_pen;
     flat.setCapStyle(Qt::FlatCap);
     m_painter.setPen(flat);
@@ -163,6 +213,23 @@ void RasterPlot::strokeInPieces(const std::vector<QPolygonF> &parts)
     }
 }
 
+std::vector<QPointF> RasterPlot::thinned(const std::vector<QPointF> &points)
+{
+    if (points.size() < 3)
+        return points;
+    std::vector<QPointF> kept{points.front()};
+    LineOfSight sight(points.front());
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (sight.reaches(points[i]))
+            continue;
+        kept.push_back(points[i - 1]);
+        sight = LineOfSight(points[i - 1]);
+        static_cast<void>(sight.reaches(points[i]));
+    }
+    kept.push_back(points.back());
+    return kept;
+}
+
 std::vector<QPolygonF> RasterPlot::visibleParts(const std::vector<QPointF> &points,
                                                 const QRectF &visible)
 {
@@ -170,17 +237,12 @@ std::vector<QPolygonF> RasterPlot::visibleParts(const std::vector<QPointF> &poin
     bool goesOn = false;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const std::optional<QLineF> step = clipped(points[i - 1], points[i], visible);
-        if (!step) {
-            goesOn = false;
-            continue;
+        if (step) {
+            if (!goesOn)
+                parts.push_back({step->p1()});
+            parts.back().push_back(step->p2());
         }
-        if (!goesOn)
-            parts.push_back({step->p1()});
-        QPolygonF &part = parts.back();
-        const bool isEnd = i + 1 == points.size() || !isWithin(points[i], visible);
-        if (isEnd || part.size() < 2 || distance(part.back(), step->p2()) >= shortestStep)
-            part.push_back(step->p2());
-        goesOn = isWithin(points[i], visible);
+        goesOn = step && isWithin(points[i], visible);
     }
     return parts;
 }

@@ -10,7 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -482,19 +484,85 @@ TEST(RasterPlotVisibleParts, ofALineAcrossAreItsMiddle)
     EXPECT_NEAR(visible[0].back().y(), 100, 1e-9);
 }
 
-TEST(RasterPlotVisibleParts, leaveOutStepsTooShortToSee)
+TEST(RasterPlotVisibleParts, ofOnePointAreNone) { EXPECT_TRUE(parts({{10, 10}}).empty()); }
+
+// --- The points of a line that make a difference
+
+namespace {
+
+double distanceFromStep(QPointF p, QPointF a, QPointF b)
+{
+    const QPointF step = b - a;
+    const double squared = QPointF::dotProduct(step, step);
+    const double t = squared > 0 ? QPointF::dotProduct(p - a, step) / squared : 0;
+    const QPointF away = p - (a + step * std::min(1.0, std::max(0.0, t)));
+    return std::hypot(away.x(), away.y());
+}
+
+/// The farthest that any of the points lies from the line.
+double farthestFrom(const std::vector<QPointF> &line, const std::vector<QPointF> &points)
+{
+    double farthest = 0;
+    for (const QPointF &point : points) {
+        double nearest = std::numeric_limits<double>::infinity();
+        for (std::size_t i = 1; i < line.size(); ++i)
+            nearest = std::min(nearest, distanceFromStep(point, line[i - 1], line[i]));
+        farthest = std::max(farthest, nearest);
+    }
+    return farthest;
+}
+
+} // namespace
+
+TEST(RasterPlotThinned, aStraightCrowdIsItsEnds)
 {
     std::vector<QPointF> crowd;
     for (int i = 0; i <= 1000; ++i)
-        crowd.emplace_back(10 + i * 0.01, 50);
-    const auto visible = parts(crowd);
-    ASSERT_EQ(visible.size(), 1U);
-    EXPECT_LT(visible[0].size(), 50);
-    EXPECT_DOUBLE_EQ(visible[0].front().x(), 10);
-    EXPECT_DOUBLE_EQ(visible[0].back().x(), 20);
+        crowd.emplace_back(10 + i * 0.01, 50 + i * 0.02);
+    const std::vector<QPointF> line = RasterPlot::thinned(crowd);
+    ASSERT_EQ(line.size(), 2U);
+    EXPECT_DOUBLE_EQ(line[0].x(), 10);
+    EXPECT_DOUBLE_EQ(line[1].x(), 20);
 }
 
-TEST(RasterPlotVisibleParts, ofOnePointAreNone) { EXPECT_TRUE(parts({{10, 10}}).empty()); }
+TEST(RasterPlotThinned, aCurveKeepsItsShapeWithFewPoints)
+{
+    std::vector<QPointF> curve;
+    for (int i = 0; i <= 4000; ++i)
+        curve.emplace_back(i * 0.1, 150 + 100 * std::sin(i * 0.01));
+    const std::vector<QPointF> line = RasterPlot::thinned(curve);
+    EXPECT_LT(line.size(), 300U);
+    EXPECT_LE(farthestFrom(line, curve), 0.125 + 1e-9);
+}
+
+TEST(RasterPlotThinned, aLineThatTurnsBackKeepsItsTip)
+{
+    const std::vector<QPointF> line = RasterPlot::thinned({{0, 0}, {10, 0}, {5, 0}});
+    ASSERT_EQ(line.size(), 3U);
+    EXPECT_DOUBLE_EQ(line[1].x(), 10);
+}
+
+TEST(RasterPlotThinned, aZigzagKeepsAllItsCorners)
+{
+    std::vector<QPointF> zigzag;
+    for (int i = 0; i < 100; ++i)
+        zigzag.emplace_back(i, i % 2);
+    EXPECT_EQ(RasterPlot::thinned(zigzag).size(), 100U);
+}
+
+TEST(RasterPlotThinned, pointsAtOnePlaceKeepTheirEnds)
+{
+    EXPECT_EQ(RasterPlot::thinned({{5, 5}, {5, 5}, {5, 5}, {5, 5}}).size(), 2U);
+    EXPECT_EQ(RasterPlot::thinned({{5, 5}}).size(), 1U);
+    EXPECT_TRUE(RasterPlot::thinned({}).empty());
+}
+
+TEST(MarkerDrawing, pointsAtOnePlaceLeaveADotOfTheLine)
+{
+    const QImage canvas = drawn({at(30, 20), at(30, 20)}, style(0), 2);
+    EXPECT_EQ(colorAt(canvas, 30, 25), white);
+    EXPECT_NE(colorAt(canvas, 30, 20), white);
+}
 
 // --- The swatch
 
