@@ -94,67 +94,74 @@ private:
     std::vector<std::uint16_t> m_weights;
 };
 
-/// Four channels of 8 bits, spread over lanes of 16 bits so that one multiplication weighs all.
+/// Sums of weighted bytes, one for each channel of each column. 16 bits are enough, because the
+/// weights of a pixel add up to `one` and half of it is added for rounding.
+using Sums = std::vector<std::uint16_t>;
+
+constexpr int half = one / 2;
+
+/// Four channels of 8 bits; their sums are weighed together, as four lanes of one number.
 struct Coloured
 {
+    static constexpr int channels = 4;
     using Pixel = std::uint32_t;
     using Lanes = std::uint64_t;
     static constexpr Lanes mask = 0x00ff00ff00ff00ffU;
-    static constexpr Lanes half = 0x0080008000800080U;
-    static Lanes spread(Pixel p)
-    {
-        return (p & 0x00ff00ffU) | (static_cast<Lanes>(p & 0xff00ff00U) << 24U);
-    }
+    static constexpr Lanes rounding = 0x0080008000800080U;
     static Pixel packed(Lanes lanes)
     {
-        return static_cast<Pixel>((lanes & 0x00ff00ffU) | ((lanes >> 24U) & 0xff00ff00U));
+        const Lanes pairs = lanes | (lanes >> 8U);
+        return static_cast<Pixel>((pairs & 0xffffU) | ((pairs >> 16U) & 0xffff0000U));
     }
 };
 
 struct Gray
 {
+    static constexpr int channels = 1;
     using Pixel = std::uint8_t;
-    using Lanes = std::uint32_t;
-    static constexpr Lanes mask = 0xffU;
-    static constexpr Lanes half = 0x80U;
-    static Lanes spread(Pixel p) { return p; }
-    static Pixel packed(Lanes lanes) { return static_cast<Pixel>(lanes); }
+    using Lanes = std::uint16_t;
+    static constexpr std::uint32_t mask = 0xffU;
+    static constexpr std::uint32_t rounding = half;
+    static Pixel packed(std::uint32_t lanes) { return static_cast<Pixel>(lanes); }
 };
 
-template <typename Channels>
-const typename Channels::Pixel *line(const QImage &image, int row)
+/// Mixes source rows, from byte `begin` on, into `sums`, which become bytes again. The loops are
+/// over bytes and without branches, which compilers turn into vector instructions.
+void mixRows(const QImage &source, const Mix &mix, const std::uint16_t *weights, std::size_t begin,
+             Sums &sums)
 {
-    return reinterpret_cast<const typename Channels::Pixel *>(image.constScanLine(row));
-}
-
-/// Mixes source rows, from column `begin` on, into `sum` (weighted by `one` in all).
-template <typename Channels>
-void mixRows(const QImage &source, const Mix &mix, const std::uint16_t *weights, int begin,
-             std::vector<typename Channels::Lanes> &sum)
-{
-    const std::size_t count = sum.size();
-    const auto *pixels = line<Channels>(source, mix.first) + begin;
-    for (std::size_t x = 0; x < count; ++x)
-        sum[x] = Channels::half + Channels::spread(pixels[x]) * weights[0];
-    for (int row = 1; row < mix.count; ++row) {
-        pixels = line<Channels>(source, mix.first + row) + begin;
-        const typename Channels::Lanes weight = weights[row];
-        for (std::size_t x = 0; x < count; ++x)
-            sum[x] += Channels::spread(pixels[x]) * weight;
+    const std::size_t count = sums.size();
+    std::uint16_t *const sum = sums.data();
+    for (int row = 0; row < mix.count; ++row) {
+        const uchar *const bytes = source.constScanLine(mix.first + row) + begin;
+        const std::uint16_t weight = weights[row];
+        if (row == 0) {
+            for (std::size_t i = 0; i < count; ++i)
+                sum[i] = static_cast<std::uint16_t>(half + bytes[i] * weight);
+        } else {
+            for (std::size_t i = 0; i < count; ++i)
+                sum[i] = static_cast<std::uint16_t>(sum[i] + bytes[i] * weight);
+        }
     }
+    for (std::size_t i = 0; i < count; ++i)
+        sum[i] = static_cast<std::uint16_t>(sum[i] / one);
 }
 
 template <typename Channels>
-void mixColumns(const Mixes &columns, const std::vector<typename Channels::Lanes> &sum,
-                typename Channels::Pixel *target)
+void mixColumns(const Mixes &columns, const Sums &sums, typename Channels::Pixel *target)
 {
     const int begin = columns.begin();
     for (const Mix &mix : columns.all()) {
         const std::uint16_t *weights = columns.weightsOf(mix);
-        const auto *lanes = sum.data() + (mix.first - begin);
-        typename Channels::Lanes total = Channels::half;
-        for (int i = 0; i < mix.count; ++i)
-            total += ((lanes[i] >> 8U) & Channels::mask) * weights[i];
+        const std::uint16_t *sum =
+            sums.data() + static_cast<std::ptrdiff_t>(mix.first - begin) * Channels::channels;
+        auto total = Channels::rounding;
+        for (int i = 0; i < mix.count; ++i) {
+            typename Channels::Lanes lanes = 0;
+            std::memcpy(&lanes, sum, sizeof lanes);
+            sum += Channels::channels;
+            total += lanes * weights[i];
+        }
         *target++ = Channels::packed((total >> 8U) & Channels::mask);
     }
 }
@@ -162,19 +169,20 @@ void mixColumns(const Mixes &columns, const std::vector<typename Channels::Lanes
 template <typename Channels>
 void mixAll(const QImage &source, const Mixes &columns, const Mixes &rows, QImage &result)
 {
-    std::vector<typename Channels::Lanes> sum(
-        static_cast<std::size_t>(columns.end() - columns.begin()));
+    const auto width = static_cast<std::size_t>(columns.end() - columns.begin());
+    const std::size_t begin =
+        static_cast<std::size_t>(columns.begin()) * sizeof(typename Channels::Pixel);
+    Sums sums(width * Channels::channels);
     const bool copiesColumns = columns.isCopy();
     int y = 0;
     for (const Mix &row : rows.all()) {
         auto *target = reinterpret_cast<typename Channels::Pixel *>(result.scanLine(y++));
         if (copiesColumns && row.count == 1) {
-            std::memcpy(target, line<Channels>(source, row.first) + columns.begin(),
-                        sum.size() * sizeof *target);
+            std::memcpy(target, source.constScanLine(row.first) + begin, width * sizeof *target);
             continue;
         }
-        mixRows<Channels>(source, row, rows.weightsOf(row), columns.begin(), sum);
-        mixColumns<Channels>(columns, sum, target);
+        mixRows(source, row, rows.weightsOf(row), begin, sums);
+        mixColumns<Channels>(columns, sums, target);
     }
 }
 

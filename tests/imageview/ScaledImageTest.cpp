@@ -15,8 +15,8 @@ Picture cornered(int width, int height)
     QPainter painter(&image);
     painter.fillRect(0, 0, 80, 80, Qt::red);
     painter.fillRect(width - 80, 0, 80, 80, Qt::green);
-    painter.fillRect(0, height - 80, 80, 40, Qt::blue);
-    painter.fillRect(width - 80, height - 80, 80, 40, Qt::yellow);
+    painter.fillRect(0, height - 80, 80, 80, Qt::blue);
+    painter.fillRect(width - 80, height - 80, 80, 80, Qt::yellow);
     painter.end();
     return *Picture::fromImageRep(image);
 }
