@@ -52,6 +52,13 @@ Result numberIn(const ArchiveValue *node, Convert convert)
 
 } // namespace
 
+ArchiveDictionary::ArchiveDictionary() = default;
+ArchiveDictionary::ArchiveDictionary(const ArchiveDictionary &other) = default;
+ArchiveDictionary::ArchiveDictionary(ArchiveDictionary &&other) noexcept = default;
+ArchiveDictionary &ArchiveDictionary::operator=(const ArchiveDictionary &other) = default;
+ArchiveDictionary &ArchiveDictionary::operator=(ArchiveDictionary &&other) noexcept = default;
+ArchiveDictionary::~ArchiveDictionary() = default;
+
 void ArchiveDictionary::set(std::string_view key, ArchiveValue value)
 {
     for (auto &[name, old] : m_entries) {

@@ -20,6 +20,14 @@ using ArchiveArray = std::vector<ArchiveValue>;
 class ArchiveDictionary
 {
 public:
+    // Defined where ArchiveValue is complete: a dictionary holds values that may hold dictionaries.
+    ArchiveDictionary();
+    ArchiveDictionary(const ArchiveDictionary &other);
+    ArchiveDictionary(ArchiveDictionary &&other) noexcept;
+    ArchiveDictionary &operator=(const ArchiveDictionary &other);
+    ArchiveDictionary &operator=(ArchiveDictionary &&other) noexcept;
+    ~ArchiveDictionary();
+
     /// Puts `value` under `key`, at its old place if the key is there already.
     void set(std::string_view key, ArchiveValue value);
 

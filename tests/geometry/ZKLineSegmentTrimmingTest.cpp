@@ -175,6 +175,15 @@ TEST(ZKLineSegmentTrimming, aSecondEdgeMustBeMet)
     EXPECT_FALSE(trimmed({5, -10}, {5, 20}, {{0, 0}, {10, infinity}}));
 }
 
+TEST(ZKLineSegmentTrimming, aCornerThatRoundingPutsOnOneEdgeOnlyIsNothing)
+{
+    // The line touches the upper right corner; the other edge's crossing is rounded past its end.
+    EXPECT_FALSE(trimmed({-72931, 56969}, {73489, -56681},
+                         {{1.71096957F, 1.67321897F}, {277.289032F, 142.326782F}}));
+    EXPECT_FALSE(trimmed({-183256, 231776}, {61356, -77004},
+                         {{1.00869453F, 1.70469725F}, {201.991302F, 189.295303F}}));
+}
+
 TEST(ZKLineSegmentTrimming, byADirectionAddsItToThePoint)
 {
     const auto segment = ZKLineSegment::lineWithNSPoint({4, 5}, {2, 0}, kSquare);
