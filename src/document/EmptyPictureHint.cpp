@@ -11,6 +11,10 @@
 EmptyPictureHint::EmptyPictureHint(QWidget *area)
     : QWidget(area)
 {
+    // The empty picture is white in every palette.
+    QPalette onWhite = palette();
+    onWhite.setColor(QPalette::WindowText, QColor(40, 40, 40));
+    setPalette(onWhite);
     auto *column = new QVBoxLayout(this);
     column->setSpacing(10);
     auto *symbol = new QLabel(this);

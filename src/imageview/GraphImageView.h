@@ -175,7 +175,6 @@ private:
     void endAnchorDrag(FloatPoint viewPosition);
 
     void drawRect(QPainter &painter, const QRect &dirtyRect);
-    void drawHint(QPainter &painter) const;
 
     [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint windowPoint(QPointF widgetPosition) const;

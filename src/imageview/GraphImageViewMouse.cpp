@@ -287,7 +287,6 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
 {
     if (!m_scaledImage) {
         painter.fillRect(dirtyRect, Qt::white);
-        drawHint(painter);
         return;
     }
     m_scaledImage->draw(painter, dirtyRect, visibleRegion().boundingRect());
@@ -300,11 +299,4 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
         m_outlets.cursorGuide->drawGuide(painter);
         m_outlets.dataSeries->drawDataMarkersWithScale(painter, m_imageScale);
     }
-}
-
-void GraphImageView::drawHint(QPainter &painter) const
-{
-    painter.setPen(Qt::darkGray);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     texts::localized("imageview.view.empty-hint"));
 }

@@ -73,11 +73,6 @@
         <extracomment>Name of the picture view for screen readers.</extracomment>
         <translation>Picture of the chart</translation>
     </message>
-    <message id="imageview.view.empty-hint">
-        <source>Open a picture of a chart to begin</source>
-        <extracomment>Shown in the middle of the picture area while there is no picture.</extracomment>
-        <translation>Open a picture of a chart to begin</translation>
-    </message>
     <message id="imageview.zoom-slider.name">
         <source>Zoom</source>
         <extracomment>Name of the zoom slider for screen readers.</extracomment>
