@@ -5,7 +5,7 @@
 packages_to_run=(
     g++ cmake ninja-build libgl-dev
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    libqt6svg6-dev qt6-image-formats-plugins qt6-wayland
+    qt6-svg-dev qt6-image-formats-plugins qt6-wayland
 )
 
 # To run the tests.
