@@ -6,10 +6,16 @@
 #include "document/SymbolIcons.h"
 #include "ui_MyDocument.h"
 
+#include <QAbstractItemModel>
 #include <QCloseEvent>
 #include <QEvent>
 
 #include <algorithm>
+
+namespace {
+// Two series stand side by side in the drawer; a wider column is one drag away.
+constexpr int columnWidth = 97;
+} // namespace
 
 DocumentWindow::DocumentWindow(MyDocument &document)
     : m_document(document)
@@ -22,6 +28,8 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     m_ui->dataTableDrawer->setContent(m_ui->dataTableView);
     m_ui->rotDirRadio->setId(m_ui->counterClockwiseRadio, 0);
     m_ui->rotDirRadio->setId(m_ui->clockwiseRadio, 1);
+    for (int column = 0; column < m_ui->dataTableView->model()->columnCount(); ++column)
+        m_ui->dataTableView->setColumnWidth(column, columnWidth);
     m_status = new StatusLine(this);
     m_ui->statusBar->addWidget(m_status, 1);
     m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);
