@@ -199,6 +199,18 @@ TEST_F(CurrentAxesAnchors, layoutFollowsScaleAndAnchorSize)
     EXPECT_EQ(axes.partOfHit({100, 80}), 1);
 }
 
+TEST_F(CurrentAxesAnchors, anchorSizeWaitsForANewLayout)
+{
+    setAnchors(defaultFrame);
+    const FloatRect before = axes.layout().anchor1Rect;
+    prefs.anchorSize = 6;
+    EXPECT_EQ(axes.layout().anchor1Rect, before);
+    EXPECT_EQ(axes.partOfHit({96, 80}), 2);
+    axes.makeAnchorRectsWithScale(1);
+    EXPECT_EQ(axes.layout().anchor1Rect, (FloatRect{{97, 77}, {6, 6}}));
+    EXPECT_NE(axes.partOfHit({96, 80}), 2);
+}
+
 TEST_F(CurrentAxesAnchors, dragFollowsThePointerUntilTheRelease)
 {
     setAnchors(defaultFrame);
