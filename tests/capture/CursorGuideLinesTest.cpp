@@ -146,6 +146,19 @@ TEST_F(CursorGuideGuide, isDrawnInItsColourAndThickness)
     EXPECT_EQ(colorAt(canvas, 42, 200), white);
 }
 
+TEST_F(CursorGuideGuide, linesEndSquarelyAtTheEdgeOfThePicture)
+{
+    view.size = {200, 150}; // the canvas goes on beyond it
+    guide.setConverter(tenths());
+    guide.forceDrawGuide({40, 60}, 1);
+    const QImage canvas = drawing();
+    EXPECT_EQ(colorAt(canvas, 199, 60), red);
+    EXPECT_EQ(colorAt(canvas, 199, 59), red); // not rounded off
+    EXPECT_EQ(colorAt(canvas, 200, 60), white);
+    EXPECT_EQ(colorAt(canvas, 40, 149), red);
+    EXPECT_EQ(colorAt(canvas, 40, 150), white);
+}
+
 TEST_F(CursorGuideGuide, circleIsDrawnInTheThicknessOfTheAxes)
 {
     guide.setConverter(degrees());
