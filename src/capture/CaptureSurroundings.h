@@ -125,9 +125,10 @@ public:
     [[nodiscard]] virtual IndexSet validSeriesBetween(int first, int last) const = 0;
     [[nodiscard]] virtual IndexSet validSeriesWithin(const IndexSet &series) const = 0;
     /// The length of the longest series.
-    [[nodiscard]] virtual int maxRows() const = 0;
-    /// The text of one cell, empty where the series has no such point.
-    [[nodiscard]] virtual QString cellText(int series, int row) const = 0;
+    [[nodiscard]] virtual int numberOfRowsInTableView() const = 0;
+    /// `tableView:objectValueForTableColumn:row:` gives the text of one cell, empty where the
+    /// series has no such point.
+    [[nodiscard]] virtual QString tableView(int objectValueForTableColumn, int row) const = 0;
 };
 
 /// What the series store tells the marker preview.

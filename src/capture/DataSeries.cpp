@@ -96,9 +96,10 @@ IndexSet DataSeries::validSeriesWithin(const IndexSet &series) const
 
 int DataSeries::maxRows() const { return m_store.maxRows(); }
 
-QString DataSeries::cellText(int series, int row) const
+QString DataSeries::tableView(int objectValueForTableColumn, int row) const
 {
     constexpr int digits = 3;
+    const int series = objectValueForTableColumn;
     if (!SeriesStore::isSeries(series) || row < 0 || row >= m_store.pointCount(series))
         return {};
     const ZKVector &point = points(series)[static_cast<std::size_t>(row)];

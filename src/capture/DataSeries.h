@@ -92,8 +92,10 @@ public:
     [[nodiscard]] IndexSet validSeries() const override;
     [[nodiscard]] IndexSet validSeriesBetween(int first, int last) const override;
     [[nodiscard]] IndexSet validSeriesWithin(const IndexSet &series) const override;
-    [[nodiscard]] int maxRows() const override;
-    [[nodiscard]] QString cellText(int series, int row) const override;
+    /// The length of the longest series, 0 when all are empty.
+    [[nodiscard]] int maxRows() const;
+    [[nodiscard]] int numberOfRowsInTableView() const override { return maxRows(); }
+    [[nodiscard]] QString tableView(int objectValueForTableColumn, int row) const override;
 
     /// `appendData:withConverter:` adds one point, in graph values taken with `converter`, to
     /// the current series. If that one was begun under other axes, the next empty series takes

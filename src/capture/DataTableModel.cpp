@@ -34,7 +34,7 @@ void DataTableModel::setPrefs(const CapturePrefs &prefs)
 
 void DataTableModel::noteNumberOfRowsChanged()
 {
-    const int rows = m_source == nullptr ? 0 : m_source->maxRows();
+    const int rows = m_source == nullptr ? 0 : m_source->numberOfRowsInTableView();
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;
@@ -74,7 +74,7 @@ QVariant DataTableModel::data(const QModelIndex &index, int role) const
 {
     if (role != Qt::DisplayRole || !index.isValid() || m_source == nullptr)
         return {};
-    return m_source->cellText(index.column(), index.row());
+    return m_source->tableView(index.column(), index.row());
 }
 
 QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, int role) const

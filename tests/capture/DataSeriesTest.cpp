@@ -181,6 +181,7 @@ TEST_F(DataSeriesTest, otherAxesWithAllSeriesInUseAddNothing)
     calls.clear();
     EXPECT_FALSE(click(7, 8, parallelAxes(20)));
     EXPECT_EQ(series.maxRows(), 1);
+    EXPECT_EQ(series.numberOfRowsInTableView(), 1);
     EXPECT_EQ(series.currentSeries(), 3);
     EXPECT_EQ(series.converterOf(3), axes);
     EXPECT_TRUE(calls.empty());
@@ -458,13 +459,13 @@ TEST_F(DataSeriesTest, theSelectionIsTheOneOfTheTable)
 TEST_F(DataSeriesTest, aCellShowsThePointWithThreeSignificantDigits)
 {
     click(0.123456F, 1234.5F);
-    EXPECT_EQ(series.cellText(0, 0), QStringLiteral("(0.123, 1.23e+03)"));
+    EXPECT_EQ(series.tableView(0, 0), QStringLiteral("(0.123, 1.23e+03)"));
 }
 
 TEST_F(DataSeriesTest, cellsRoundTiesToEven)
 {
     click(12.25F, 66.25F);
-    EXPECT_EQ(series.cellText(0, 0), QStringLiteral("(12.2, 66.2)"));
+    EXPECT_EQ(series.tableView(0, 0), QStringLiteral("(12.2, 66.2)"));
 }
 
 TEST_F(DataSeriesTest, aCellBelowTheLastPointIsEmpty)
@@ -472,17 +473,17 @@ TEST_F(DataSeriesTest, aCellBelowTheLastPointIsEmpty)
     click(1, 1);
     click(2, 2);
     click(3, 3);
-    EXPECT_FALSE(series.cellText(0, 2).isEmpty());
-    EXPECT_TRUE(series.cellText(0, 3).isEmpty());
-    EXPECT_TRUE(series.cellText(1, 0).isEmpty());
+    EXPECT_FALSE(series.tableView(0, 2).isEmpty());
+    EXPECT_TRUE(series.tableView(0, 3).isEmpty());
+    EXPECT_TRUE(series.tableView(1, 0).isEmpty());
 }
 
 TEST_F(DataSeriesTest, cellsOutsideTheTableAreEmpty)
 {
     click(1, 1);
-    EXPECT_TRUE(series.cellText(-1, 0).isEmpty());
-    EXPECT_TRUE(series.cellText(10, 0).isEmpty());
-    EXPECT_TRUE(series.cellText(0, -1).isEmpty());
+    EXPECT_TRUE(series.tableView(-1, 0).isEmpty());
+    EXPECT_TRUE(series.tableView(10, 0).isEmpty());
+    EXPECT_TRUE(series.tableView(0, -1).isEmpty());
 }
 
 // Copying

@@ -36,12 +36,13 @@ public:
         std::erase_if(valid, [&series](int i) { return !series.contains(i); });
         return valid;
     }
-    [[nodiscard]] int maxRows() const override
+    [[nodiscard]] int numberOfRowsInTableView() const override
     {
         return *std::max_element(counts.begin(), counts.end());
     }
-    [[nodiscard]] QString cellText(int series, int row) const override
+    [[nodiscard]] QString tableView(int objectValueForTableColumn, int row) const override
     {
+        const int series = objectValueForTableColumn;
         ++asked;
         if (row >= counts.at(static_cast<std::size_t>(series)))
             return {};
