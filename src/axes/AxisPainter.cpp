@@ -1,4 +1,5 @@
 #include "axes/AxisPainter.h"
+#include "platform/DefaultLineStyle.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -38,7 +39,8 @@ QPainterPath pathOf(const AxisArea &area)
 
 QPen linePen(const axispainter::Style &style)
 {
-    return {style.color.screenColor(), style.thickness, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+    return {style.color.screenColor(), style.thickness, Qt::SolidLine, defaultlinestyle::capStyle(),
+            defaultlinestyle::joinStyle()};
 }
 
 void prepareToStroke(QPainter &painter, const axispainter::Style &style)

@@ -1,4 +1,5 @@
 #include "capture/GuideLines.h"
+#include "platform/DefaultLineStyle.h"
 
 #include <QPainter>
 
@@ -48,8 +49,8 @@ void GuideLines::draw(QPainter &painter, const CapturePrefs &prefs) const
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    QPen pen(prefs.guideColor().screenColor(), prefs.guideThick(), Qt::SolidLine, Qt::FlatCap,
-             Qt::MiterJoin);
+    QPen pen(prefs.guideColor().screenColor(), prefs.guideThick(), Qt::SolidLine,
+             defaultlinestyle::capStyle(), defaultlinestyle::joinStyle());
     painter.setPen(pen);
     stroke(painter, m_guide1);
     stroke(painter, m_guide2);

@@ -3,6 +3,7 @@
 #include "capture/RasterPlot.h"
 #include "conversion/ZKConvCoordinate.h"
 #include "geometry/ZKVector.h"
+#include "platform/DefaultLineStyle.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -79,6 +80,8 @@ void markerdrawing::drawData(QPainter &painter, const std::vector<ZKVector> &poi
                              const std::shared_ptr<const ZKConvCoordinate> &converter, float scale,
                              const PlotStyle &prefs, int markerLine)
 {
+    defaultlinestyle::setCapStyle(Qt::RoundCap);
+    defaultlinestyle::setJoinStyle(Qt::RoundJoin);
     if (!converter || points.empty())
         return;
     const std::vector<QPointF> positions = viewPositions(points, *converter, scale);

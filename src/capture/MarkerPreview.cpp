@@ -1,6 +1,7 @@
 #include "capture/MarkerPreview.h"
 
 #include "capture/MarkerDrawing.h"
+#include "platform/DefaultLineStyle.h"
 #include "platform/Texts.h"
 
 #include <QPainter>
@@ -46,7 +47,7 @@ void MarkerPreview::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_color->screenColor(), static_cast<qreal>(m_thickness), Qt::SolidLine,
-                        Qt::FlatCap, Qt::MiterJoin));
+                        defaultlinestyle::capStyle(), defaultlinestyle::joinStyle()));
     const double w = width();
     const double h = height();
     const double size = m_size;

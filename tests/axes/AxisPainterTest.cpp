@@ -1,6 +1,7 @@
 #include "axes/AxisPainter.h"
 
 #include "axes/DrawingRecorder.h"
+#include "support/StartingLineStyle.h"
 
 #include <gtest/gtest.h>
 
@@ -225,6 +226,21 @@ TEST(AxisPainter, linesAndOutlinesHaveButtCapsAndMitredJoins)
         EXPECT_EQ(pen.widthF(), 3) << stroked;
         EXPECT_FALSE(pen.isCosmetic()) << stroked;
     }
+}
+
+TEST(AxisPainter, linesFollowTheDefaultThatTheDrawingOfSeriesLeaves)
+{
+    const StartingLineStyle before;
+    defaultlinestyle::setCapStyle(Qt::RoundCap);
+    defaultlinestyle::setJoinStyle(Qt::RoundJoin);
+    DrawingRecorder sheet;
+    QPainter painter(&sheet);
+    axispainter::draw(painter, axistype::polar, discLayout(), {red, 3});
+    painter.end();
+    const StartingLineStyle after;
+    ASSERT_FALSE(sheet.shapes().empty());
+    EXPECT_EQ(sheet.shapes().front().pen.capStyle(), Qt::RoundCap);
+    EXPECT_EQ(sheet.shapes().front().pen.joinStyle(), Qt::RoundJoin);
 }
 
 TEST(AxisPainter, segmentsThatAreMissingAreSkipped)

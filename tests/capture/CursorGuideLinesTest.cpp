@@ -1,6 +1,8 @@
 #include "capture/CursorGuide.h"
 
 #include "GuideFixture.h"
+#include "capture/MarkerDrawing.h"
+#include "support/StartingLineStyle.h"
 
 namespace {
 
@@ -148,6 +150,7 @@ TEST_F(CursorGuideGuide, isDrawnInItsColourAndThickness)
 
 TEST_F(CursorGuideGuide, linesEndSquarelyAtTheEdgeOfThePicture)
 {
+    const StartingLineStyle atStart;
     view.size = {200, 150}; // the canvas goes on beyond it
     guide.setConverter(tenths());
     guide.forceDrawGuide({40, 60}, 1);
@@ -157,6 +160,19 @@ TEST_F(CursorGuideGuide, linesEndSquarelyAtTheEdgeOfThePicture)
     EXPECT_EQ(colorAt(canvas, 200, 60), white);
     EXPECT_EQ(colorAt(canvas, 40, 149), red);
     EXPECT_EQ(colorAt(canvas, 40, 150), white);
+}
+
+TEST_F(CursorGuideGuide, linesEndInRoundCapsOnceSeriesWereDrawn)
+{
+    const StartingLineStyle atStart;
+    QImage elsewhere(10, 10, QImage::Format_RGB32);
+    QPainter painter(&elsewhere);
+    markerdrawing::drawData(painter, {}, nullptr, 1, PlotStyle{}, 0);
+    painter.end();
+    view.size = {200, 150};
+    guide.setConverter(tenths());
+    guide.forceDrawGuide({40, 60}, 1);
+    EXPECT_NE(colorAt(drawing(), 200, 60), white); // the cap goes beyond the end
 }
 
 TEST_F(CursorGuideGuide, circleIsDrawnInTheThicknessOfTheAxes)

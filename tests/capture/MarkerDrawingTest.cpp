@@ -3,6 +3,7 @@
 #include "capture/RasterPlot.h"
 #include "conversion/ZKConvCoordinateAffine.h"
 #include "geometry/ZKVector.h"
+#include "support/StartingLineStyle.h"
 
 #include <QImage>
 #include <QPainter>
@@ -130,6 +131,14 @@ TEST(MarkerDrawing, outlinesHaveRoundJoins)
     const QImage canvas = drawn({at(30, 30)}, thick, 0);
     EXPECT_EQ(colorAt(canvas, 30, 36), red);
     EXPECT_NE(colorAt(canvas, 36, 36), red); // the corner is rounded off
+}
+
+TEST(MarkerDrawing, leavesRoundCapsAndJoinsAsTheDefault)
+{
+    const StartingLineStyle atStart;
+    static_cast<void>(drawn({at(30, 30)}, style(1), 0));
+    EXPECT_EQ(defaultlinestyle::capStyle(), Qt::RoundCap);
+    EXPECT_EQ(defaultlinestyle::joinStyle(), Qt::RoundJoin);
 }
 
 TEST(MarkerDrawing, anUnknownShapeDrawsNoMarker)

@@ -1,4 +1,5 @@
 #include "capture/MarkerPreview.h"
+#include "support/StartingLineStyle.h"
 
 #include <QTest>
 
@@ -95,6 +96,7 @@ TEST(MarkerPreview, drawsTheMarkerInTheMiddle)
 
 TEST(MarkerPreview, drawsTheLineWithItsMargins)
 {
+    const StartingLineStyle atStart;
     MarkerPreview preview;
     preview.setPreview(blueSquare(), 2);
     const QImage canvas = shown(preview);
