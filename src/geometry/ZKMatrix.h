@@ -166,12 +166,19 @@ private:
     static constexpr std::size_t kInPlace = 12;
 
     ZKMatrix(int rows, int cols)
-        : m_rows(rows)
-        , m_cols(cols)
-        , m_matSize(rows * cols)
-        , m_matrix(static_cast<std::size_t>(m_matSize))
-    {}
+        : m_matrix(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols))
+    {
+        setRows(rows, cols);
+    }
 
+    /// `setRows:andCols:` sets the counts of a matrix that is being made; its elements must be as
+    /// many.
+    void setRows(int rows, int cols)
+    {
+        m_rows = rows;
+        m_cols = cols;
+        m_matSize = rows * cols;
+    }
     [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < m_rows; }
     [[nodiscard]] bool hasColumn(int col) const { return col >= 0 && col < m_cols; }
     [[nodiscard]] bool hasShapeOf(const ZKMatrix &matrix) const
@@ -195,9 +202,9 @@ private:
     [[nodiscard]] double determinantByElimination() const;
     [[nodiscard]] std::optional<ZKVector> solveByDeterminants() const;
 
-    int m_rows;
-    int m_cols;
-    int m_matSize;
+    int m_rows = 0;
+    int m_cols = 0;
+    int m_matSize = 0;
     InlineDoubles<kInPlace> m_matrix;
 };
 
