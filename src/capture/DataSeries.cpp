@@ -310,8 +310,11 @@ void DataSeries::setMarkerPreview()
 void DataSeries::axisChangedAlert(const QString &message)
 {
     m_surroundings.document.sheets().present(
-        {texts::localized("AxisChanged"), message, texts::localized("OK"), {}}, {});
+        {texts::localized("AxisChanged"), message, texts::localized("OK"), {}},
+        &DataSeries::alertDidEnd);
 }
+
+void DataSeries::alertDidEnd(SheetAnswer /*returnCode*/) {}
 
 void DataSeries::refresh()
 {

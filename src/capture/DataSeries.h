@@ -13,6 +13,7 @@
 
 class QCheckBox;
 class QComboBox;
+enum class SheetAnswer;
 
 /// The controls of the window that the series store reads and sets.
 struct DataSeriesOutlets
@@ -116,6 +117,8 @@ public:
 
     /// Shows, without waiting, that the axes have changed since the current series was begun.
     void axisChangedAlert(const QString &message);
+    /// `alertDidEnd:returnCode:contextInfo:` The alert only tells; its end changes nothing.
+    static void alertDidEnd(SheetAnswer returnCode);
 
     /// Tells everyone who shows points that they changed.
     void refresh();

@@ -1,6 +1,7 @@
 #include "capture/DataSeries.h"
 
 #include "SeriesFixture.h"
+#include "conversion/ZKConvCoordinateKeystone.h"
 #include "platform/Texts.h"
 
 #include <QTest>
@@ -21,6 +22,13 @@ CallLog seriesChangedCalls(int series)
     return {"preview.setPreview", "preview.setNeedsDisplay",
             "table.scrollColumnToVisible " + std::to_string(series), "guide.seriesChanged",
             "info.updateDataInfo"};
+}
+
+/// Quadrangle axes with a vanishing point at (50, 250) and the value `x0` at the left.
+SeriesConverter quadrangleAxes(double x0)
+{
+    return ZKConvCoordinateKeystone::convCoordWithPointLB({0, 0}, {100, 0}, {20, 100}, {80, 100},
+                                                          x0, 10, false, 0, 10, false);
 }
 
 CallLog joined(const CallLog &first, const CallLog &second)
@@ -172,6 +180,37 @@ TEST_F(DataSeriesTest, movingToAnotherSeriesTellsOfTheSeriesThenOfThePoint)
     calls.clear();
     click(7, 8, parallelAxes(20));
     EXPECT_EQ(calls, joined(seriesChangedCalls(1), refreshCalls));
+}
+
+TEST_F(DataSeriesTest, theEndOfTheMessageChangesNothing)
+{
+    fill({0});
+    click(7, 8, parallelAxes(20));
+    calls.clear();
+    ASSERT_EQ(document.messages.handlers.size(), 1U);
+    ASSERT_TRUE(document.messages.handlers[0]);
+    document.messages.handlers[0](SheetAnswer::Default);
+    EXPECT_TRUE(calls.empty());
+    EXPECT_EQ(series.currentSeries(), 1);
+    EXPECT_EQ(document.messages.shown.size(), 1U);
+}
+
+TEST_F(DataSeriesTest, aClickThatHasNoGraphValuesAddsZero)
+{
+    const SeriesConverter quadrangle = quadrangleAxes(1);
+    const FloatPoint values = quadrangle->convertPointFromCartesian({50, 250});
+    EXPECT_TRUE(click(values.x, values.y, quadrangle));
+    EXPECT_EQ(pairs(0), (Pairs{{0, 0}}));
+}
+
+TEST_F(DataSeriesTest, aQuadrangleWhoseCornerValueWasRoundedBeginsAnotherSeries)
+{
+    // After reopening a document the axes have the value that its field shows, the series the one
+    // that was typed.
+    click(1, 2, quadrangleAxes(1.2345678));
+    EXPECT_TRUE(click(3, 4, quadrangleAxes(1.23457)));
+    EXPECT_EQ(series.currentSeries(), 1);
+    EXPECT_EQ(document.messages.shown.size(), 1U);
 }
 
 TEST_F(DataSeriesTest, otherAxesWithAllSeriesInUseAddNothing)
