@@ -182,6 +182,19 @@ TEST_F(DataSeriesTest, movingToAnotherSeriesTellsOfTheSeriesThenOfThePoint)
     EXPECT_EQ(calls, joined(seriesChangedCalls(1), refreshCalls));
 }
 
+TEST_F(DataSeriesTest, theMessageComesAfterTheChangeOfSeriesAndBeforeThePoint)
+{
+    fill({0});
+    calls.clear();
+    CallLog before;
+    document.messages.presented = [&] {
+        before = calls;
+        EXPECT_FALSE(series.isValidSeries(1));
+    };
+    click(7, 8, parallelAxes(20));
+    EXPECT_EQ(before, seriesChangedCalls(1));
+}
+
 TEST_F(DataSeriesTest, theEndOfTheMessageChangesNothing)
 {
     fill({0});

@@ -28,8 +28,12 @@ public:
     {
         shown.push_back(sheet);
         handlers.push_back(std::move(ended));
+        if (presented)
+            presented();
     }
 
+    /// Looks at the state of things at the moment of asking.
+    std::function<void()> presented;
     std::vector<Sheet> shown;
     std::vector<std::function<void(SheetAnswer)>> handlers;
 };

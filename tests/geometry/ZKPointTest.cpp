@@ -91,6 +91,21 @@ TEST(ZKPoint, scalarsAreAppliedInDoubleAndStoredAsFloat)
     EXPECT_NEAR(tiny.X(), 1e30F, 1e24F);
 }
 
+TEST(ZKPoint, scalarsThemselvesAreNotNarrowed)
+{
+    // 0.1 as a float lies 1.49e-9 above 0.1 as a double; 1e60 is no float at all.
+    constexpr auto difference = static_cast<float>(0.10000000149011612 - 0.1);
+    ZKPoint added = at(-0.1F, -0.1F);
+    added.addScalarSelf(0.1);
+    EXPECT_EQ(added, at(-difference, -difference));
+    ZKPoint subtracted = at(0.1F, 0.1F);
+    subtracted.subScalarSelf(0.1);
+    EXPECT_EQ(subtracted, at(difference, difference));
+    ZKPoint divided = at(1e30F, 1e30F);
+    divided.divScalarSelf(1e60);
+    EXPECT_EQ(divided, at(1e-30F, 1e-30F));
+}
+
 TEST(ZKPoint, scalarOperationsReturnTheReceiver)
 {
     ZKPoint point = at(1, 2);
