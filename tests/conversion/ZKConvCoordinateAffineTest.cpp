@@ -129,6 +129,14 @@ TEST(ZKConvCoordinateAffine, axesWhoseZerosDoNotCoincideAreConvertedByTheirCross
     EXPECT_EQ(converter->convertPointFromCartesian({200, 100}), (FloatPoint{0, -1}));
 }
 
+TEST(ZKConvCoordinateAffine, originLiesOnTheLineOfXZeroByItsOwnArithmetic)
+{
+    const auto converter = ZKConvCoordinateAffine::convCoordWithX0Point(
+        {0.1F, 0.7F}, {2.9F, 1.9F}, 0, 7, false, {5.3F, 1.1F}, {5.3F, 8.9F}, 0, 3, false);
+    ASSERT_NE(converter, nullptr);
+    EXPECT_EQ(converter->origin()->X(), 0.10000000149011612);
+}
+
 TEST(ZKConvCoordinateAffine, originOfALogAxisIsWhereItsValueIsOne)
 {
     const Affine converter = affine({10, 1000, true}, {0, 3});

@@ -201,6 +201,29 @@ TEST(ZKConvCoordinatePolar, angleOffsetIsTakenOffBeforeTurning)
               vector(10 * std::cos(turn) * 5 + 100, 10 * std::sin(turn) * 5 + 100));
 }
 
+TEST(ZKConvCoordinatePolar, degreesAreDividedBeforeTheyAreMultiplied)
+{
+    const auto converter =
+        ZKConvCoordinatePolar::convCoordWithCenter({0, 0}, {100, 0}, 0, 10, false, 1, true);
+    for (int degrees = -180; degrees <= 180; ++degrees) {
+        const double turn = degrees / 180.0 * pi;
+        EXPECT_EQ(to(converter, degrees, 5),
+                  vector(10 * std::cos(turn) * 5, 10 * std::sin(turn) * 5))
+            << degrees;
+    }
+}
+
+TEST(ZKConvCoordinatePolar, radiansAreMultipliedBeforeTheyAreDivided)
+{
+    const Polar converter = polar(linear, 1);
+    for (int i = 1; i < 200; ++i) {
+        const ZKVector fromCenter = vector(i, 60);
+        EXPECT_EQ(from(converter, 100 + i, 160).X(),
+                  converter->unitR()->angle(fromCenter) * 180.0 / pi)
+            << i;
+    }
+}
+
 TEST(ZKConvCoordinatePolar, radiusBelowTheCentreValueLandsOnTheOppositeSide)
 {
     EXPECT_NEAR(to(polar({5, 10}, 1), 0, 0).X(), 0, 1e-12);
