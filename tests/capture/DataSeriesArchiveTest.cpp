@@ -207,11 +207,13 @@ TEST_F(DataSeriesArchive, aStoredDrawModeOutsideThePopupIsReadBackFromIt)
 {
     series.setDrawMarkersAndLines();
     ArchiveDictionary data = series.dataForSave();
-    data.set("Marker Series", ArchiveValue{ArchiveArray{number(7)}});
-    ASSERT_TRUE(series.loadFromData(&data));
-    EXPECT_EQ(markerDrawPopup.currentIndex(), 1);
-    EXPECT_EQ(series.markerDrawOf(0), 1);
-    EXPECT_EQ(preview.mode, 1);
+    for (const int mode : {7, 3, -1}) {
+        data.set("Marker Series", ArchiveValue{ArchiveArray{number(mode)}});
+        ASSERT_TRUE(series.loadFromData(&data));
+        EXPECT_EQ(markerDrawPopup.currentIndex(), 1) << mode;
+        EXPECT_EQ(series.markerDrawOf(0), 1) << mode;
+        EXPECT_EQ(preview.mode, 1) << mode;
+    }
 }
 
 TEST_F(DataSeriesArchive, aSnapshotDoesNotFollowLaterClicks)

@@ -157,6 +157,12 @@ TEST(ZKPoint, normalizeSelfLeavesZeroAlone)
     EXPECT_EQ(point.normalizeSelf(), ZKPoint::pointZero());
 }
 
+TEST(ZKPoint, normalizeSelfTakesAnyLengthThatIsNotZero)
+{
+    ZKPoint point = at(0, 1e-21F);
+    EXPECT_NEAR(point.normalizeSelf().Y(), 1, 0.01);
+}
+
 TEST(ZKPoint, angleIsSignedBySide)
 {
     EXPECT_FLOAT_EQ(at(1, 0).angle(at(0, 1)), kHalfPi);
