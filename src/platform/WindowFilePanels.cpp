@@ -86,7 +86,7 @@ void WindowFilePanels::chooseTextFileToSave(const QString &message, const QStrin
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())
                 return;
-            remember(panel);
+            remember(path);
             save(message, withTextSuffix(path), chosen);
         });
 }
@@ -114,12 +114,10 @@ void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())
                 return;
-            remember(panel);
+            remember(path);
             chosen(path);
         });
 }
 
-void WindowFilePanels::remember(const QDialog &panel)
-{
-    m_folder = static_cast<const QFileDialog &>(panel).directory().absolutePath();
-}
+// A name typed with its folder leaves the panel in another one.
+void WindowFilePanels::remember(const QString &path) { m_folder = QFileInfo(path).absolutePath(); }

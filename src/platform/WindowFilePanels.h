@@ -4,7 +4,6 @@
 
 #include <QString>
 
-class QDialog;
 class WindowSheets;
 
 /// The file choosers of one window; they wait in the queue of the window's sheets.
@@ -23,7 +22,7 @@ private:
     using Chosen = std::function<void(const QString &path)>;
 
     void save(const QString &message, const QString &path, const Chosen &chosen);
-    void remember(const QDialog &panel);
+    void remember(const QString &path);
 
     WindowSheets &m_sheets;
     QString m_folder; ///< where the user was last

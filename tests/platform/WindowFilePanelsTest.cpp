@@ -165,6 +165,16 @@ TEST_F(WindowFilePanelsTest, whoDoesNotOverwriteChoosesAnotherName)
     EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("other.txt"))}));
 }
 
+TEST_F(WindowFilePanelsTest, theFolderTypedBeforeANameIsTheNextPanelsFolder)
+{
+    const QTemporaryDir elsewhere;
+    askToSave();
+    confirm(elsewhere.filePath(QStringLiteral("data")));
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(elsewhere.path()));
+}
+
 TEST_F(WindowFilePanelsTest, theNextPanelOpensInTheFolderOfTheLastOne)
 {
     askToSave();
