@@ -243,6 +243,9 @@ void GraphImageView::mouseCheckRoutine()
         setHover({});
         return;
     }
+    setHover(FloatPoint{pointer.x / m_imageScale, pointer.y / m_imageScale});
+    if (m_trackingAnchorDrag)
+        return; // what the press began goes on whatever keys are held
     const int mode = modeOfHeldKeys(m_outlets.document->desktop().modifiers());
     if (mode >= HandMode) {
         if (mode != m_mouseDownMode)
@@ -254,7 +257,6 @@ void GraphImageView::mouseCheckRoutine()
         m_outlets.cursorGuide->converter() != nullptr)
         m_outlets.cursorGuide->drawGuide(pointer, m_imageScale);
     setMouseDownMode(mode);
-    setHover(FloatPoint{pointer.x / m_imageScale, pointer.y / m_imageScale});
 }
 
 void GraphImageView::setMouseDownMode(int mode)

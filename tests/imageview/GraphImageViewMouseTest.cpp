@@ -204,6 +204,19 @@ TEST_F(GraphImageViewMouseTest, anAnchorDragRunsFromTheFirstMoveToTheRelease)
                                    "continueDrag", "endDrag"}));
 }
 
+TEST_F(GraphImageViewMouseTest, keysHeldDuringAnAnchorDragMakeNoHand)
+{
+    showPicture(400, 300, true);
+    pointAt({100, 50});
+    press({100, 50});
+    drag({3, 4});
+    around.held = Qt::ControlModifier;
+    view->mouseCheckRoutine();
+    EXPECT_EQ(view->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(view->mouseDownMode(), 1);
+    release();
+}
+
 TEST_F(GraphImageViewMouseTest, aReleaseAfterAnAnchorDragIsEaten)
 {
     showPicture(400, 300, true);
