@@ -15,6 +15,7 @@ namespace {
 
 constexpr int polarConverter = 2;
 constexpr int shownDigits = 5;
+constexpr int percentDigits = 3;
 
 QString number(float value)
 {
@@ -105,7 +106,8 @@ void DocumentStatus::showScale()
 {
     const double percent = static_cast<double>(m_document.graphView().imageScale()) * 100.0;
     m_document.window().showScale(
-        m_document.hasImage() ? texts::localized("document.zoom.percent")
-                                    .arg(QString::fromStdString(numbertext::fixed(percent, 0)))
-                              : QString());
+        m_document.hasImage()
+            ? texts::localized("document.zoom.percent")
+                  .arg(QString::fromStdString(numbertext::general(percent, percentDigits)))
+            : QString());
 }

@@ -9,12 +9,15 @@
 #include <QAbstractItemModel>
 #include <QCloseEvent>
 #include <QEvent>
+#include <QGroupBox>
 
 #include <algorithm>
 
 namespace {
 // Two series stand side by side in the drawer; a wider column is one drag away.
 constexpr int columnWidth = 97;
+// Less would leave hardly any picture.
+constexpr int smallestHeight = 400;
 } // namespace
 
 DocumentWindow::DocumentWindow(MyDocument &document)
@@ -37,16 +40,28 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     applyIcons();
     keepPlacesOfBoxes();
     keepSizeWithoutPicture();
+    setMinimumSize(minimumSizeHint().expandedTo({0, smallestHeight})); // the drawer adds its own
 }
 
-// The boxes of the X axis and of the angle take turns in one place.
+// The boxes of the X axis and of the angle take turns in one place. In a narrow window the boxes
+// of the axes give up their width, down to what their fields need.
 void DocumentWindow::keepPlacesOfBoxes()
 {
-    const int width =
-        std::max(m_ui->xAxisBox->sizeHint().width(), m_ui->tAxisBox->sizeHint().width());
-    m_ui->xAxisBox->setFixedWidth(width);
-    m_ui->tAxisBox->setFixedWidth(width);
-    m_ui->tAxisBox->hide();
+    QGroupBox *const x = m_ui->xAxisBox;
+    QGroupBox *const t = m_ui->tAxisBox;
+    QGroupBox *const y = m_ui->yAxisBox;
+    const auto shareWidth = [this](QGroupBox *box, int least, int most) {
+        box->setMinimumWidth(least);
+        box->setMaximumWidth(most);
+        box->setSizePolicy(QSizePolicy::Ignored, box->sizePolicy().verticalPolicy());
+        m_ui->axisPageLayout->setStretchFactor(box, 1);
+    };
+    const int least = std::max(x->minimumSizeHint().width(), t->minimumSizeHint().width());
+    const int most = std::max(x->sizeHint().width(), t->sizeHint().width());
+    shareWidth(x, least, most);
+    shareWidth(t, least, most);
+    shareWidth(y, y->minimumSizeHint().width(), std::max(most, y->sizeHint().width()));
+    t->hide();
 }
 
 // The window's smallest size is the same with and without a picture, so that a picture that

@@ -129,7 +129,7 @@ void MyDocument::openPicture(const QUrl &url)
     showTitle();
     QWindow *onScreen = m_window->windowHandle();
     if (onScreen == nullptr || onScreen->isExposed())
-        m_graphView->openImageFile(url);
+        readOwnPicture();
     else
         onScreen->installEventFilter(this);
 }
@@ -138,10 +138,24 @@ bool MyDocument::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
         watched->removeEventFilter(this);
-        QMetaObject::invokeMethod(
-            this, [this] { m_graphView->openImageFile(m_fileUrl); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &MyDocument::readOwnPicture, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
+}
+
+// The document bears the name of its picture's file only if that gave a picture.
+void MyDocument::readOwnPicture()
+{
+    const auto ended = [this](bool taken) {
+        if (taken)
+            return;
+        m_fileUrl.clear();
+        showTitle();
+    };
+    if (!m_graphView->openImageFile(m_fileUrl))
+        ended(false);
+    else if (!hasImage()) // it is still being read
+        connect(m_graphView, &GraphImageView::fileOpened, this, ended, Qt::SingleShotConnection);
 }
 
 CurvegrabPrefs &MyDocument::prefs() const { return m_services.prefs(); }

@@ -148,6 +148,7 @@ protected:
 private:
     void makeComponents();
     void wire();
+    void readOwnPicture();
     void chooseAxisType(int type);
     void runPostponedCommands();
     void drawerDidOpen();

@@ -114,7 +114,7 @@ void TableDrawer::open()
     m_contentWidth = std::min(m_contentWidth, std::max(widthLeftOnScreen(), narrowestContent));
     m_content->setVisible(true);
     setFixedWidth(handleWidth + m_contentWidth);
-    m_takenWidth = widenWindow(m_contentWidth);
+    m_takenWidth = widenWindow(m_contentWidth, m_contentWidth);
     Q_EMIT didOpen();
 }
 
@@ -125,7 +125,7 @@ void TableDrawer::close()
     m_isOpen = false;
     m_content->setVisible(false);
     setFixedWidth(handleWidth);
-    widenWindow(-m_takenWidth);
+    widenWindow(-m_takenWidth, -m_contentWidth);
     Q_EMIT didClose();
 }
 
@@ -143,7 +143,7 @@ void TableDrawer::setContentWidth(int width)
 {
     const int bounded = std::min(std::max(width, narrowestContent), widestContent);
     if (m_isOpen) {
-        m_takenWidth += widenWindow(bounded - m_contentWidth);
+        m_takenWidth += widenWindow(bounded - m_contentWidth, bounded - m_contentWidth);
         setFixedWidth(handleWidth + bounded);
     }
     m_contentWidth = bounded;
@@ -157,25 +157,35 @@ int TableDrawer::widthLeftOnScreen() const
 }
 
 // A maximised window keeps its size, and one at the screen's edge takes what is left; the picture
-// then gives up the rest of the width.
-int TableDrawer::widenWindow(int by)
+// then gives up the rest of the width. What the controls need, nobody gives up: the window rather
+// moves.
+int TableDrawer::widenWindow(int by, int smallestBy)
 {
     QWidget *top = window();
-    if (top->isMaximized() || top->isFullScreen())
-        return 0;
-    int width = top->width() + by;
-    if (by > 0 && top->isVisible()) {
-        const QRect available = top->screen()->availableGeometry();
-        width = std::max(top->width(), std::min(width, available.right() + 1 - top->x()));
-    }
+    const bool keepsSize = top->isMaximized() || top->isFullScreen();
+    const QRect available = top->screen()->availableGeometry();
     const int before = top->width();
+    int width = keepsSize ? before : before + by;
+    if (by > 0 && top->isVisible())
+        width = std::max(before, std::min(width, available.right() + 1 - top->x()));
+    // At once, since the old smallest width would hold up the closing.
+    top->setMinimumWidth(std::max(0, top->minimumWidth() + smallestBy));
+    if (keepsSize)
+        return 0;
     top->resize(width, top->height());
+    const int beyond = top->geometry().right() - available.right();
+    if (by > 0 && top->isVisible() && beyond > 0)
+        top->move(std::max(available.left(), top->x() - beyond), top->y());
     return top->width() - before;
 }
 
 void TableDrawer::dragHandle(int by)
 {
-    const int bounded = std::min(std::max(m_contentWidth + by, narrowestContent), widestContent);
+    QWidget *top = window();
+    const int widest =
+        std::min(m_contentWidth + std::max(0, top->width() - top->minimumWidth()), widestContent);
+    const int bounded = std::max(std::min(m_contentWidth + by, widest), narrowestContent);
+    top->setMinimumWidth(std::max(0, top->minimumWidth() + bounded - m_contentWidth));
     m_contentWidth = bounded;
     setFixedWidth(handleWidth + bounded);
 }

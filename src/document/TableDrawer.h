@@ -44,7 +44,8 @@ private:
     class Handle;
 
     [[nodiscard]] int widthLeftOnScreen() const;
-    int widenWindow(int by);
+    /// Widens the window, and its smallest width; tells by how much it became wider.
+    int widenWindow(int by, int smallestBy);
     void dragHandle(int by);
 
     QHBoxLayout *m_layout;

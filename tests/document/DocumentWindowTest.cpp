@@ -3,9 +3,25 @@
 #include "capture/DataSeries.h"
 #include "document/TableDrawer.h"
 
+#include <QFile>
+#include <QGroupBox>
 #include <QLabel>
 
 #include <gtest/gtest.h>
+
+namespace {
+
+/// A file named chart.bmp in `folder`.
+QUrl savedPicture(const QTemporaryDir &folder, QSize size)
+{
+    const QString path = folder.filePath(QStringLiteral("chart.bmp"));
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    EXPECT_TRUE(picture.save(path));
+    return QUrl::fromLocalFile(path);
+}
+
+} // namespace
 
 TEST(DocumentWindow, aNewDocumentShowsTheTable)
 {
@@ -56,6 +72,37 @@ TEST(DocumentWindow, aPictureAtTheStandardFrameIsSeenWhole)
     EXPECT_GE(clip.height, 400);
 }
 
+TEST(DocumentWindow, nothingIsCutOffInTheNarrowestWindow)
+{
+    TestDocument test;
+    for (const bool tableShown : {true, false}) {
+        EXPECT_EQ(test.ui().dataTableDrawer->isOpen(), tableShown);
+        test.document->window().resize(10, 10);
+        QCoreApplication::processEvents();
+        const Ui::MyDocument &ui = test.ui();
+        EXPECT_LT(ui.mainColumn->geometry().right(), ui.dataTableDrawer->x());
+        EXPECT_EQ(ui.dataTableDrawer->geometry().right(), ui.centralWidget->width() - 1);
+        EXPECT_GE(ui.actionSelectionTab->width(), ui.actionSelectionTab->minimumSizeHint().width());
+        test.document->showHideDataTable();
+    }
+}
+
+TEST(DocumentWindow, aSmallScreenHoldsControlsAndTable)
+{
+    const TestDocument test;
+    test.document->window().resize(1024, 700);
+    EXPECT_EQ(test.document->window().width(), 1024);
+    EXPECT_TRUE(test.ui().dataTableDrawer->isOpen());
+}
+
+TEST(DocumentWindow, theFieldsTakeTheirFullWidthWhereThereIsRoom)
+{
+    const TestDocument test;
+    test.document->window().resize(1300, 700);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.ui().minXTextField->width(), test.ui().minXTextField->maximumWidth());
+}
+
 TEST(DocumentWindow, withoutPictureThePlaceholderStandsForTheTab)
 {
     const TestDocument test{QSize(0, 0)};
@@ -73,6 +120,17 @@ TEST(DocumentWindow, withAPictureTheTabShows)
 TEST(DocumentWindow, controlsKeepTheirPlaceWhenTheKindOfAxesChanges)
 {
     TestDocument test;
+    const QRect before = test.ui().yAxisBox->geometry();
+    test.command("choosePolarAxes");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.ui().yAxisBox->geometry(), before);
+}
+
+TEST(DocumentWindow, controlsKeepTheirPlaceInANarrowWindowToo)
+{
+    TestDocument test;
+    test.document->window().resize(10, 10);
+    QCoreApplication::processEvents();
     const QRect before = test.ui().yAxisBox->geometry();
     test.command("choosePolarAxes");
     QCoreApplication::processEvents();
@@ -124,6 +182,61 @@ TEST(DocumentWindow, aDocumentWithoutPointsClosesWithoutAsking)
     TestDocument test;
     EXPECT_TRUE(test.document->window().close());
     EXPECT_TRUE(test.services.sheets->presented().empty());
+}
+
+TEST(DocumentWindow, bearsTheNameOfThePictureItIsMadeFrom)
+{
+    const QTemporaryDir folder;
+    const TestDocument test{QSize(0, 0)};
+    test.document->openPicture(savedPicture(folder, {400, 300}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return test.document->hasImage(); }));
+    EXPECT_EQ(test.document->displayName(), "chart.bmp");
+}
+
+TEST(DocumentWindow, aFileThatGivesNoPictureGivesNoName)
+{
+    const TestDocument test{QSize(0, 0)};
+    test.document->openPicture(QUrl::fromLocalFile(QStringLiteral("/nowhere/chart.png")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !test.services.sheets->presented().empty(); }));
+    EXPECT_EQ(test.document->displayName(), qtTrId("document.title.untitled"));
+}
+
+TEST(DocumentWindow, aLargeFileThatTurnsOutDamagedGivesNoName)
+{
+    const QTemporaryDir folder;
+    const QUrl url = savedPicture(folder, {2500, 1700});
+    QFile file(url.toLocalFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    file.close();
+    const TestDocument test{QSize(0, 0)};
+    test.document->openPicture(url);
+    EXPECT_EQ(test.document->displayName(), "chart.bmp");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return !test.services.sheets->presented().empty(); }, 20'000));
+    EXPECT_EQ(test.document->displayName(), qtTrId("document.title.untitled"));
+}
+
+TEST(DocumentWindow, anotherPictureThatCannotBeOpenedLeavesTheName)
+{
+    const QTemporaryDir folder;
+    const TestDocument test{QSize(0, 0)};
+    test.document->openPicture(savedPicture(folder, {400, 300}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return test.document->hasImage(); }));
+    test.document->graphView().openImageFile(
+        QUrl::fromLocalFile(QStringLiteral("/nowhere/other.png")));
+    EXPECT_EQ(test.document->displayName(), "chart.bmp");
+}
+
+TEST(DocumentWindow, theScaleIsShownWithThreeDigits)
+{
+    TestDocument test;
+    const auto shown = [&test] { return test.ui().zoomLabel->text(); };
+    EXPECT_EQ(shown(), qtTrId("document.zoom.percent").arg("100"));
+    test.command("zoomOut");
+    EXPECT_EQ(shown(), qtTrId("document.zoom.percent").arg("70.7"));
+    test.document->graphView().rescaleImageWith(0.125F, true);
+    EXPECT_EQ(shown(), qtTrId("document.zoom.percent").arg("12.5"));
 }
 
 TEST(DocumentWindow, theStatusLineSaysWhatAClickWillDo)

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -100,4 +101,45 @@ TEST_F(TableDrawerTest, theClosedDrawerTakesNothingOfTheWindow)
     EXPECT_EQ(drawer->widthInWindow(), 0);
     drawer->open();
     EXPECT_EQ(drawer->widthInWindow(), drawer->contentWidth());
+}
+
+TEST_F(TableDrawerTest, theSmallestWidthOfTheWindowFollowsTheDrawer)
+{
+    window.setMinimumWidth(400);
+    drawer->open();
+    EXPECT_EQ(window.minimumWidth(), 400 + drawer->contentWidth());
+    drawer->setContentWidth(150);
+    EXPECT_EQ(window.minimumWidth(), 550);
+    drawer->close();
+    EXPECT_EQ(window.minimumWidth(), 400);
+}
+
+TEST_F(TableDrawerTest, closingANarrowWindowGivesTheWidthBackAtOnce)
+{
+    window.setMinimumWidth(500);
+    drawer->open();
+    drawer->close();
+    EXPECT_EQ(window.width(), 500);
+}
+
+TEST_F(TableDrawerTest, theHandleLeavesTheWindowItsSmallestWidth)
+{
+    window.setMinimumWidth(490);
+    drawer->open();
+    const int before = drawer->contentWidth();
+    QTest::mousePress(handle(), Qt::LeftButton, Qt::NoModifier, QPoint(4, 100));
+    QTest::mouseMove(handle(), QPoint(-96, 100));
+    QTest::mouseRelease(handle(), Qt::LeftButton, Qt::NoModifier, QPoint(-96, 100));
+    EXPECT_EQ(drawer->contentWidth(), before + 10);
+    EXPECT_EQ(window.width(), 500 + before);
+}
+
+TEST_F(TableDrawerTest, atTheEdgeOfTheScreenTheWindowMovesRatherThanLosingItsControls)
+{
+    window.setMinimumWidth(500);
+    const QRect available = window.screen()->availableGeometry();
+    window.move(available.right() - 510, available.top());
+    drawer->open();
+    EXPECT_EQ(window.width(), 500 + drawer->contentWidth());
+    EXPECT_EQ(window.geometry().right(), available.right());
 }
