@@ -9,6 +9,11 @@ if(CURVEGRAB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CURVEGRAB_CCACHE})
 endif()
 
+# ccache does not keep what was compiled with precompiled headers; it is the faster of the two.
+if(CURVEGRAB_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+    set(CURVEGRAB_PRECOMPILED_HEADERS OFF)
+endif()
+
 add_library(curvegrab_options INTERFACE)
 target_include_directories(curvegrab_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(curvegrab_options INTERFACE
@@ -31,3 +36,7 @@ target_link_libraries(curvegrab_qt_options INTERFACE curvegrab_options)
 target_compile_definitions(curvegrab_qt_options INTERFACE
     QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# Tests are long and run for moments: optimising them costs more than it gives.
+add_library(curvegrab_test_options INTERFACE)
+target_compile_options(curvegrab_test_options INTERFACE -O0)
