@@ -1,5 +1,6 @@
 #include "archiving/SequentialCoder.h"
 
+#include <limits>
 #include <utility>
 
 void SequentialEncoder::encodeInt(std::int32_t value) { m_items.emplace_back(value); }
@@ -30,9 +31,20 @@ T SequentialDecoder::next()
     return value;
 }
 
-std::int32_t SequentialDecoder::decodeInt() { return next<std::int32_t>(); }
+template <class T>
+T SequentialDecoder::nextInteger()
+{
+    if (m_items.empty() || !std::holds_alternative<ArchivedInteger>(m_items.front()))
+        return next<T>();
+    const std::int64_t value = next<ArchivedInteger>().value;
+    if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
+        m_failed = true;
+    return m_failed ? T{} : static_cast<T>(value);
+}
 
-std::int8_t SequentialDecoder::decodeChar() { return next<std::int8_t>(); }
+std::int32_t SequentialDecoder::decodeInt() { return nextInteger<std::int32_t>(); }
+
+std::int8_t SequentialDecoder::decodeChar() { return nextInteger<std::int8_t>(); }
 
 double SequentialDecoder::decodeDouble() { return next<double>(); }
 

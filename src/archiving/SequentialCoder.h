@@ -20,9 +20,19 @@ struct ArchivedPoint
 /// A block of bytes shared with its maker, so that a large picture is not copied.
 using ArchivedBytes = std::shared_ptr<const std::vector<std::byte>>;
 
+/// An integer from a file, which does not tell its type code: it is read as any integer type that
+/// holds it.
+struct ArchivedInteger
+{
+    std::int64_t value = 0;
+
+    friend bool operator==(const ArchivedInteger &, const ArchivedInteger &) = default;
+};
+
 /// One archived value: a 32-bit integer ("i"), an 8-bit integer ("c"), a double ("d"), a
-/// point or a block of bytes.
-using ArchivedItem = std::variant<std::int32_t, std::int8_t, double, ArchivedPoint, ArchivedBytes>;
+/// point, a block of bytes, or an integer of unknown type.
+using ArchivedItem =
+    std::variant<std::int32_t, std::int8_t, double, ArchivedPoint, ArchivedBytes, ArchivedInteger>;
 
 /// Collects the values of one object in the order in which the object hands them over;
 /// there are no keys, the order is the format.
@@ -64,6 +74,8 @@ public:
 private:
     template <class T>
     [[nodiscard]] T next();
+    template <class T>
+    [[nodiscard]] T nextInteger();
 
     std::span<const ArchivedItem> m_items;
     bool m_failed = false;

@@ -42,6 +42,24 @@ std::optional<FloatSize> sizeFromText(const QString &text)
     return size;
 }
 
+/// The size in points of so many pixels: what `told` says if it agrees, else one point per pixel.
+FloatSize sizeOf(QSize pixels, const QString &told)
+{
+    const FloatSize pixelSize{static_cast<float>(pixels.width()),
+                              static_cast<float>(pixels.height())};
+    const std::optional<FloatSize> size = sizeFromText(told);
+    const bool agrees = size && std::ceil(size->width) == pixelSize.width &&
+                        std::ceil(size->height) == pixelSize.height;
+    return agrees ? *size : pixelSize;
+}
+
+/// The bytes without a copy; `bytes` outlives them.
+QByteArray rawBytes(const std::vector<std::byte> &bytes)
+{
+    return QByteArray::fromRawData(reinterpret_cast<const char *>(bytes.data()),
+                                   static_cast<qsizetype>(bytes.size()));
+}
+
 } // namespace
 
 std::shared_ptr<const ArchivedPicture> ArchivedPicture::archived(const Picture &picture)
@@ -75,10 +93,20 @@ void ArchivedPicture::encodeWithCoder(SequentialEncoder &coder) const
     coder.encodeBytes(m_bytes);
 }
 
+std::optional<FloatSize> ArchivedPicture::size() const
+{
+    QByteArray bytes = rawBytes(*m_bytes);
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "png");
+    const QSize pixels = reader.size();
+    if (pixels.isEmpty())
+        return {};
+    return sizeOf(pixels, reader.text(sizeKey));
+}
+
 std::optional<Picture> ArchivedPicture::picture() const
 {
-    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(m_bytes->data()),
-                                               static_cast<qsizetype>(m_bytes->size()));
+    QByteArray bytes = rawBytes(*m_bytes);
     QBuffer buffer(&bytes);
     QImageReader::setAllocationLimit(0);
     QImageReader reader(&buffer, "png");
@@ -87,10 +115,6 @@ std::optional<Picture> ArchivedPicture::picture() const
     QImage pixels = reader.read();
     if (pixels.isNull())
         return {};
-    const FloatSize pixelSize{static_cast<float>(pixels.width()),
-                              static_cast<float>(pixels.height())};
-    const std::optional<FloatSize> told = sizeFromText(pixels.text(sizeKey));
-    const bool agrees = told && std::ceil(told->width) == pixelSize.width &&
-                        std::ceil(told->height) == pixelSize.height;
-    return Picture::fromPixels(std::move(pixels), agrees ? *told : pixelSize);
+    const FloatSize size = sizeOf(pixels.size(), pixels.text(sizeKey));
+    return Picture::fromPixels(std::move(pixels), size);
 }

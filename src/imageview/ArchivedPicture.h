@@ -27,6 +27,9 @@ public:
     [[nodiscard]] std::string_view className() const override { return archivedName; }
     void encodeWithCoder(SequentialEncoder &coder) const override;
 
+    /// The picture's size in points, from the head of the bytes; nothing if that is damaged.
+    [[nodiscard]] std::optional<FloatSize> size() const;
+
     /// The bytes as a picture, decoded at each call; nothing if they are damaged.
     [[nodiscard]] std::optional<Picture> picture() const;
 

@@ -215,7 +215,7 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
         return false;
     m_imageScale = stored->floatForKey("Image Scale");
     if (!std::isfinite(m_imageScale) || m_imageScale <= 0)
-        m_imageScale = 1; // no picture can be shown at such a scale
+        m_imageScale = minimumScale; // no picture can be shown at the stored one
     m_outlets.magnificationSlider->setDoubleValue(std::log10(static_cast<double>(m_imageScale)) /
                                                   std::log10(2.0));
     m_rotation = stored->floatForKey("Rotation Angle");

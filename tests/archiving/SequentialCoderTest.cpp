@@ -91,6 +91,30 @@ TEST(SequentialDecoder, failsForAValueOfAnotherType)
     EXPECT_TRUE(asBytes.failed());
 }
 
+TEST(SequentialDecoder, anIntegerFromAFileIsAnyTypeThatHoldsIt)
+{
+    const std::vector<ArchivedItem> items = {ArchivedInteger{-128}, ArchivedInteger{-128}};
+    SequentialDecoder coder(items);
+    EXPECT_EQ(coder.decodeInt(), -128);
+    EXPECT_EQ(coder.decodeChar(), -128);
+    EXPECT_FALSE(coder.failed());
+}
+
+TEST(SequentialDecoder, failsForAnIntegerFromAFileThatIsTooLarge)
+{
+    const std::vector<ArchivedItem> items = {ArchivedInteger{128}};
+    SequentialDecoder asChar(items);
+    EXPECT_EQ(asChar.decodeChar(), 0);
+    EXPECT_TRUE(asChar.failed());
+    const std::vector<ArchivedItem> larger = {ArchivedInteger{2'147'483'648}};
+    SequentialDecoder asInt(larger);
+    EXPECT_EQ(asInt.decodeInt(), 0);
+    EXPECT_TRUE(asInt.failed());
+    SequentialDecoder asDouble(items);
+    EXPECT_EQ(asDouble.decodeDouble(), 0.0);
+    EXPECT_TRUE(asDouble.failed());
+}
+
 TEST(SequentialDecoder, theFirstFailureSticks)
 {
     const std::vector<ArchivedItem> items = {std::int32_t{7}, 2.5};

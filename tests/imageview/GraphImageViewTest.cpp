@@ -372,7 +372,7 @@ TEST_F(GraphImageViewTest, impossibleScalesAreReplaced)
                               std::numeric_limits<float>::infinity()}) {
         saved.set("Image Scale", {scale});
         EXPECT_TRUE(view->loadFromData(&saved));
-        EXPECT_EQ(view->imageScale(), 1);
+        EXPECT_EQ(view->imageScale(), 0.125F);
     }
 }
 

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "archiving/ArchiveTree.h"
+#include "axes/Anchors.h"
+#include "capture/SeriesStore.h"
+#include "document/DocumentArchive.h"
+#include "geometry/FloatGeometry.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// What a document file says, for those who have no window: the picture is not decoded.
+struct DocumentContents
+{
+    struct Axes
+    {
+        int type = 0; ///< 0 parallel, 1 quadrangle, 2 polar
+        Anchors anchors;
+        double minX = 0;
+        double maxX = 0;
+        double minY = 0;
+        double maxY = 0;
+        bool logX = false;
+        bool logY = false;
+        int thetaRange = 0;
+        bool isCounterClockwise = false;
+    };
+
+    struct Guide
+    {
+        int autoXMode = 0;
+        bool lockX = false;
+        bool lockY = false;
+        double initialX = 0;
+        double stepX = 0;
+        double currentX = 0;
+        double currentY = 0;
+        std::shared_ptr<const ZKConvCoordinate> converter;
+    };
+
+    struct PictureFacts
+    {
+        FloatSize size;     ///< in points, not rotated
+        float scale = 1;    ///< of the display
+        float rotation = 0; ///< degrees, counter-clockwise
+    };
+
+    SeriesStore series;
+    int currentSeries = 0;
+    Axes axes;
+    Guide guide;
+    std::optional<PictureFacts> picture; ///< nothing without a picture
+
+    /// What a root dictionary says; what is missing is 0, off or empty.
+    [[nodiscard]] static DocumentContents fromRoot(const ArchiveDictionary &root);
+};
+
+/// A document file that was read without a window.
+struct ReadDocumentFile
+{
+    std::optional<DocumentContents> contents; ///< nothing if there is no such file or no document
+    /// Why the file could not be read, or not whole, in the user's words; empty if all is well.
+    QString error;
+    std::vector<documentarchive::Damage> damages;
+};
+
+/// Reads the document file at `path`. A damaged one gives what is left, and an error.
+[[nodiscard]] ReadDocumentFile readDocumentFile(const QString &path);
