@@ -3,6 +3,7 @@
 #include "document/MyDocument.h"
 #include "platform/SystemClipboard.h"
 #include "platform/SystemDesktop.h"
+#include "platform/SystemPasteboard.h"
 #include "platform/Texts.h"
 #include "platform/WindowFilePanels.h"
 #include "platform/WindowSheets.h"
@@ -20,6 +21,7 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, QObject *parent)
     : QObject(parent)
     , m_prefs(prefs)
     , m_clipboard(std::make_unique<SystemClipboard>())
+    , m_pasteboard(std::make_unique<SystemPasteboard>())
 {
     m_sharedItems.showHideTable =
         addSharedItem("showHideDataTable", "ShowTable", 0, QKeySequence(QStringLiteral("Ctrl+T")),
@@ -69,6 +71,8 @@ void DocumentController::openFiles(const QStringList &paths)
 }
 
 Clipboard &DocumentController::clipboard() { return *m_clipboard; }
+
+Pasteboard &DocumentController::pasteboard() { return *m_pasteboard; }
 
 WindowDialogs DocumentController::makeDialogs(QWidget &window)
 {

@@ -9,6 +9,7 @@
 #include <vector>
 
 class SystemClipboard;
+class SystemPasteboard;
 
 /// The open documents of the application, the menu items that they share, and the services of the
 /// real desktop.
@@ -30,6 +31,7 @@ public:
 
     [[nodiscard]] CurvegrabPrefs &prefs() override { return m_prefs; }
     [[nodiscard]] Clipboard &clipboard() override;
+    [[nodiscard]] Pasteboard &pasteboard() override;
     [[nodiscard]] DocumentMenus::SharedItems sharedItems() override { return m_sharedItems; }
     [[nodiscard]] WindowDialogs makeDialogs(QWidget &window) override;
     [[nodiscard]] std::unique_ptr<Desktop> makeDesktop(QWidget &window) override;
@@ -46,6 +48,7 @@ private:
     CurvegrabPrefs &m_prefs;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;
+    std::unique_ptr<SystemPasteboard> m_pasteboard;
     std::vector<std::unique_ptr<MyDocument>> m_documents;
     MyDocument *m_keyDocument = nullptr;
     int m_lastNumber = 0;

@@ -105,6 +105,11 @@ void DocumentMenus::addEditMenu()
                menurules::CopySelection,
                {QKeySequence::Copy},
                &MyDocument::copy});
+    add(menu, {"paste",
+               "document.command.paste",
+               menurules::Paste,
+               {QKeySequence::Paste},
+               &MyDocument::paste});
     add(menu, {"delete",
                "document.command.delete",
                menurules::DeleteSelection,

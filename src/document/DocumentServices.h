@@ -11,6 +11,7 @@
 class Clipboard;
 class CurvegrabPrefs;
 class MyDocument;
+class Pasteboard;
 class QWidget;
 
 /// What a window asks its user with. The panels go before the sheets.
@@ -28,6 +29,7 @@ public:
 
     [[nodiscard]] virtual CurvegrabPrefs &prefs() = 0;
     [[nodiscard]] virtual Clipboard &clipboard() = 0;
+    [[nodiscard]] virtual Pasteboard &pasteboard() = 0;
     [[nodiscard]] virtual DocumentMenus::SharedItems sharedItems() = 0;
     /// The sheets and file panels of one window, which outlives them; they share one queue.
     [[nodiscard]] virtual WindowDialogs makeDialogs(QWidget &window) = 0;

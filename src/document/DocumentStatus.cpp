@@ -32,6 +32,8 @@ DocumentStatus::DocumentStatus(MyDocument &document)
             &DocumentStatus::hoverChanged);
     connect(&document.graphView(), &GraphImageView::mouseDownModeChanged, this,
             [this] { showHint(); });
+    connect(&document.graphView(), &GraphImageView::hoveringDragChanged, this,
+            [this] { showHint(); });
 }
 
 void DocumentStatus::refresh()
@@ -50,8 +52,26 @@ void DocumentStatus::hoverChanged(std::optional<FloatPoint> inPicture)
     showPositions();
 }
 
+QString DocumentStatus::hintOfDrag() const
+{
+    switch (m_document.graphView().hoveringDrag()) {
+    case GraphImageView::HoveringDrag::Picture:
+        return texts::localized(m_document.hasImage() ? "document.status.dropReplaces"
+                                                      : "document.status.dropOpens");
+    case GraphImageView::HoveringDrag::NoPicture:
+        return texts::localized("document.status.dropNoPicture");
+    case GraphImageView::HoveringDrag::WhileDigitizing:
+        return texts::localized("document.status.dropWhileDigitizing");
+    case GraphImageView::HoveringDrag::None:
+        break;
+    }
+    return {};
+}
+
 QString DocumentStatus::hint() const
 {
+    if (const QString drag = hintOfDrag(); !drag.isEmpty())
+        return drag;
     if (!m_document.hasImage())
         return texts::localized("document.status.open");
     const GraphImageView &view = m_document.graphView();

@@ -27,6 +27,7 @@ private:
     void showSeries();
     void showScale();
     [[nodiscard]] QString hint() const;
+    [[nodiscard]] QString hintOfDrag() const;
 
     MyDocument &m_document;
     std::optional<FloatPoint> m_hover; ///< the pointer in picture coordinates

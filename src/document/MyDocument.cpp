@@ -10,6 +10,7 @@
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureSuffixes.h"
+#include "platform/Pasteboard.h"
 #include "platform/Texts.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "ui_MyDocument.h"
@@ -108,6 +109,7 @@ void MyDocument::wire()
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
     connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
     connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);
+    connect(&m_services.pasteboard(), &Pasteboard::changed, this, &MyDocument::pasteboardChanged);
 
     m_currentAxes->awakeFromNib();
     m_dataSeries->awakeFromNib();
@@ -215,10 +217,29 @@ menurules::State MyDocument::menuState() const
     state.currentSeries = m_dataSeries->currentSeries();
     state.autoXMode = m_cursorGuide->autoXMode();
     state.axisType = axisType();
+    state.acceptsPasteboard = acceptsPasteboard();
     state.canZoomToActual = m_graphView->canZoomToActual();
     state.canZoomIn = m_graphView->canZoomIn();
     state.canZoomOut = m_graphView->canZoomOut();
     return state;
+}
+
+// The program that filled the pasteboard may be slow to answer: it is asked once, and not from
+// behind.
+bool MyDocument::acceptsPasteboard() const
+{
+    if (!isInAxisSettingMode())
+        return false;
+    if (!m_pasteboardIsGood)
+        m_pasteboardIsGood = m_graphView->acceptPasteboard(m_services.pasteboard().content());
+    return *m_pasteboardIsGood;
+}
+
+void MyDocument::pasteboardChanged()
+{
+    m_pasteboardIsGood.reset();
+    if (m_isKey)
+        showsChanged();
 }
 
 int MyDocument::axisType() const { return m_currentAxes->axisType(); }
@@ -365,6 +386,11 @@ void MyDocument::undo() { m_undoManager.undo(); }
 void MyDocument::redo() { m_undoManager.redo(); }
 
 void MyDocument::copy() { m_dataSeries->copySelection(); }
+
+void MyDocument::paste()
+{
+    m_graphView->replaceImageWithPasteboard(m_services.pasteboard().content());
+}
 
 void MyDocument::deleteSelection() { m_dataSeries->deleteSelection(); }
 

@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -113,6 +114,7 @@ public Q_SLOTS:
     void undo();
     void redo();
     void copy();
+    void paste();
     void deleteSelection();
     void selectAll();
     void showAxisSetting();
@@ -155,6 +157,8 @@ private:
     void drawerDidClose();
     void drawerStateChanged();
     void showTitle();
+    [[nodiscard]] bool acceptsPasteboard() const;
+    void pasteboardChanged();
 
     DocumentServices &m_services;
     int m_number;
@@ -162,6 +166,7 @@ private:
     int m_changeCount = 0;
     bool m_isKey = false;
     bool m_closeAgreed = false;
+    mutable std::optional<bool> m_pasteboardIsGood; ///< as far as it was looked at
     int m_drawerOpenButtonState = 1;
     QUrl m_fileUrl;
     std::vector<std::pair<int, std::function<void()>>> m_postponed;

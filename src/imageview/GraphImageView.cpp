@@ -1,5 +1,6 @@
 #include "imageview/GraphImageView.h"
 
+#include "imageview/DropArea.h"
 #include "imageview/ImageViewSurroundings.h"
 #include "imageview/PictureOpener.h"
 #include "imageview/PictureScrollArea.h"
@@ -19,12 +20,6 @@ namespace {
 
 bool isTurnedAside(float rotation) { return rotation != 0 && rotation != 180; }
 
-Sheet openingFailed(const PictureReading &reading, const QString &path)
-{
-    return {texts::localized("ErrorOccurred"), pictureproblem::explanation(reading, path),
-            texts::localized("OK"), QString()};
-}
-
 } // namespace
 
 GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
@@ -39,6 +34,7 @@ GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     connect(&m_mouseCheckTimer, &QTimer::timeout, this, &GraphImageView::mouseCheckRoutine);
     connect(&scrollArea, &PictureScrollArea::zoomRequested, this, &GraphImageView::zoomAbout);
     scrollArea.setDocumentView(this);
+    new DropArea(scrollArea, *this);
 }
 
 GraphImageView::~GraphImageView() = default;
@@ -65,6 +61,7 @@ void GraphImageView::awakeFromNib()
     m_originalImage.reset();
     m_scaledImage.reset();
     m_mouseDownMode = 0;
+    m_becameDropTarget = false;
     m_justMouseDown = false;
     m_inDragging = false;
     setButtonStates();
@@ -92,17 +89,29 @@ bool GraphImageView::openImageFile(const QUrl &url)
 {
     if (!url.isLocalFile())
         return false;
-    const QString path = url.toLocalFile();
-    const auto install = [this, path](const PictureReading &reading) {
+    return openPicture(url.toLocalFile());
+}
+
+bool GraphImageView::openPicture(const PictureSource &source)
+{
+    const auto install = [this, source](const PictureReading &reading) {
         if (reading.picture)
             return replaceImageWith(reading.picture);
         if (reading.problem != PictureProblem::Cancelled)
-            m_outlets.document->sheets().present(openingFailed(reading, path), {});
+            presentProblem(pictureproblem::explanation(reading, source));
         return false;
     };
-    const std::optional<PictureReading> reading = m_opener->open(
-        path, [this, install](const PictureReading &later) { Q_EMIT fileOpened(install(later)); });
+    const std::optional<PictureReading> reading =
+        m_opener->open(source, [this, install](const PictureReading &later) {
+            Q_EMIT fileOpened(install(later));
+        });
     return reading ? install(*reading) : true;
+}
+
+void GraphImageView::presentProblem(const QString &explanation)
+{
+    m_outlets.document->sheets().present(
+        {texts::localized("ErrorOccurred"), explanation, texts::localized("OK"), QString()}, {});
 }
 
 bool GraphImageView::replaceImageWithImageRep(const QImage &rep)

@@ -3,6 +3,7 @@
 #include "archiving/ArchiveTree.h"
 #include "geometry/FloatGeometry.h"
 #include "imageview/ArchivedPicture.h"
+#include "imageview/DropTarget.h"
 #include "imageview/Picture.h"
 #include "imageview/ScaledImage.h"
 
@@ -22,6 +23,8 @@ class ImageViewPrefs;
 class ImageViewSeries;
 class PictureOpener;
 class PictureScrollArea;
+class PictureSource;
+class QMimeData;
 class QAbstractButton;
 class ZoomSlider;
 
@@ -49,11 +52,19 @@ struct ImageViewOutlets
 /// View coordinates are points with the origin at the picture's bottom left and y upwards: picture
 /// coordinates (after rotation) times imageScale(). Widget pixels are turned into them in one
 /// place, viewPoint(), and nothing else knows that widgets count downwards.
-class GraphImageView : public QWidget
+class GraphImageView : public QWidget, public DropTarget
 {
     Q_OBJECT
 
 public:
+    /// What hovers over the picture, held by the mouse.
+    enum class HoveringDrag {
+        None,
+        Picture,         ///< a drop would be taken
+        NoPicture,       ///< refused: nothing that can be opened
+        WhileDigitizing, ///< refused: the picture may be replaced on the axis page only
+    };
+
     static constexpr float minimumScale = 0.125F;
     static constexpr float maximumScale = 2.0F;
     /// The space that the window's frame and controls take beside (above and below) the picture.
@@ -87,11 +98,25 @@ public:
     /// picture stays. Large files are read in the background: then true says that reading has
     /// begun, and `fileOpened` how it ended.
     bool openImageFile(const QUrl &url);
+    /// Whether a paste or drop of `pasteboard`, which may be null, would be taken: on the axis
+    /// page a local file with the extension of a picture, or an image where there are no files.
+    [[nodiscard]] bool acceptPasteboard(const QMimeData *pasteboard) const;
+    /// Takes the first local file on `pasteboard`, else its image, as openImageFile() does. False
+    /// without a word for no pasteboard.
+    bool replaceImageWithPasteboard(const QMimeData *pasteboard);
     /// Makes a picture of pixels; false for null pixels.
     bool replaceImageWithImageRep(const QImage &rep);
     /// Installs a picture, upright, at its initial scale. Nothing gives false, but what hangs on
     /// the picture is brought up to date all the same.
     bool replaceImageWith(std::optional<Picture> image);
+
+    Qt::DropAction draggingEntered(const QMimeData *pasteboard) override;
+    void draggingExited() override;
+    bool performDragOperation(const QMimeData *pasteboard) override;
+    void concludeDragOperation() override;
+    /// An acceptable drag hovers over the picture.
+    [[nodiscard]] bool becameDropTarget() const { return m_becameDropTarget; }
+    [[nodiscard]] HoveringDrag hoveringDrag() const { return m_hoveringDrag; }
 
     void imageRotateCw();
     void imageRotateCcw();
@@ -147,6 +172,7 @@ Q_SIGNALS:
     void anchorDragEnded();
     /// The reading of a large file has ended; `taken` says whether its picture was installed.
     void fileOpened(bool taken);
+    void hoveringDragChanged(HoveringDrag drag);
     void pictureChanged();
     void scaleChanged(float scale);
     void mouseDownModeChanged(int mode);
@@ -164,6 +190,8 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    bool openPicture(const PictureSource &source);
+    void presentProblem(const QString &explanation);
     void imageRotated();
     void makeScaledImage();
     void zoomAbout(double factor, QPointF viewportPosition);
@@ -174,7 +202,12 @@ private:
     void dragAnchors(FloatPoint windowPoint);
     void endAnchorDrag(FloatPoint viewPosition);
 
+    void endDragging();
+    void setHoveringDrag(HoveringDrag drag);
+
     void drawRect(QPainter &painter, const QRect &dirtyRect);
+    void drawPicture(QPainter &painter, const QRect &dirtyRect);
+    static void drawDropVeil(QPainter &painter, const QRect &dirtyRect);
 
     [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint windowPoint(QPointF widgetPosition) const;
@@ -196,6 +229,8 @@ private:
 
     QTimer m_mouseCheckTimer;
     int m_mouseDownMode = 0;
+    bool m_becameDropTarget = false;
+    HoveringDrag m_hoveringDrag = HoveringDrag::None;
     bool m_justMouseDown = false;
     bool m_inDragging = false;
     FloatPoint m_initialMousePos; ///< window coordinates

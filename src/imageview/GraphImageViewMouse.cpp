@@ -287,11 +287,19 @@ void GraphImageView::paintEvent(QPaintEvent *event)
 
 void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
 {
-    if (!m_scaledImage) {
+    if (m_scaledImage)
+        drawPicture(painter, dirtyRect);
+    else
         painter.fillRect(dirtyRect, Qt::white);
-        return;
-    }
+    if (m_becameDropTarget)
+        drawDropVeil(painter, dirtyRect);
+}
+
+/// The picture with what the present page draws on it.
+void GraphImageView::drawPicture(QPainter &painter, const QRect &dirtyRect)
+{
     m_scaledImage->draw(painter, dirtyRect, visibleRegion().boundingRect());
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0, static_cast<qreal>(m_scaledImage->size().height));
     painter.scale(1, -1);
@@ -301,4 +309,5 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
         m_outlets.cursorGuide->drawGuide(painter);
         m_outlets.dataSeries->drawDataMarkersWithScale(painter, m_imageScale);
     }
+    painter.restore();
 }

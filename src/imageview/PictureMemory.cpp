@@ -15,6 +15,16 @@ constexpr std::uint64_t usualMemory = std::uint64_t{2} << 30U;
 constexpr std::uint64_t mostPixels = std::uint64_t{1} << 30U;
 constexpr int longestSide = 1 << 20;
 
+/// The number of pixels of a picture of this size; zero where no picture can have it.
+std::uint64_t pixelsOf(QSize size)
+{
+    if (size.isEmpty() || size.width() > longestSide || size.height() > longestSide)
+        return 0;
+    const std::uint64_t pixels =
+        static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height());
+    return pixels <= mostPixels ? pixels : 0;
+}
+
 /// The bytes needed at the worst moment: the decoded pixels, their form for the screen, a second
 /// copy while they are turned upright, and the reduced copies.
 std::uint64_t neededBytes(const QImageReader &reader, std::uint64_t pixels)
@@ -48,10 +58,12 @@ std::uint64_t picturememory::available()
 
 bool picturememory::fits(const QImageReader &reader, std::uint64_t bytes)
 {
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > longestSide || size.height() > longestSide)
-        return false;
-    const std::uint64_t pixels =
-        static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height());
-    return pixels <= mostPixels && neededBytes(reader, pixels) <= bytes;
+    const std::uint64_t pixels = pixelsOf(reader.size());
+    return pixels > 0 && neededBytes(reader, pixels) <= bytes;
+}
+
+bool picturememory::fits(const QImage &pixels, std::uint64_t bytes)
+{
+    const std::uint64_t count = pixelsOf(pixels.size());
+    return count > 0 && count * 4 + count / 3 <= bytes;
 }

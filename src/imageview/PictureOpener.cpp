@@ -3,8 +3,6 @@
 #include "imageview/PictureMemory.h"
 #include "imageview/ReadingProgress.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -37,16 +35,16 @@ PictureOpener::~PictureOpener()
         job->thread.request_stop();
 }
 
-std::optional<PictureReading> PictureOpener::open(const QString &path, Handler finished)
+std::optional<PictureReading> PictureOpener::open(const PictureSource &source, Handler finished)
 {
     cancel();
     const PictureReader reader(picturememory::available());
-    PictureReading probed = reader.probe(path);
+    PictureReading probed = reader.probe(source);
     if (probed.problem)
         return probed;
     if (!isLarge(probed.pixelSize))
-        return reader.read(path);
-    begin(path, std::move(finished));
+        return reader.read(source);
+    begin(source, std::move(finished));
     return {};
 }
 
@@ -61,14 +59,14 @@ void PictureOpener::cancel()
     job->finished({{}, PictureProblem::Cancelled, {}});
 }
 
-void PictureOpener::begin(const QString &path, Handler finished)
+void PictureOpener::begin(const PictureSource &source, Handler finished)
 {
-    m_fileName = QFileInfo(path).fileName();
+    m_name = source.name();
     m_current = m_jobs.emplace_back(std::make_unique<Job>()).get();
     m_current->finished = std::move(finished);
-    m_current->thread = std::jthread([this, path, job = m_current](const std::stop_token &stop) {
+    m_current->thread = std::jthread([this, source, job = m_current](const std::stop_token &stop) {
         PictureReading reading =
-            PictureReader(picturememory::available()).read(path, stop, &job->percentRead);
+            PictureReader(picturememory::available()).read(source, stop, &job->percentRead);
         QMetaObject::invokeMethod(
             this, [this, job, reading = std::move(reading)] { end(job, reading); },
             Qt::QueuedConnection);
@@ -94,7 +92,7 @@ void PictureOpener::end(Job *job, const PictureReading &reading)
 void PictureOpener::showProgress()
 {
     if (!m_progress->isVisible()) {
-        m_progress->showFor(m_fileName);
+        m_progress->showFor(m_name);
         m_progressTimer.start(timeBetweenUpdates);
     }
     m_progress->setPercent(m_current->percentRead.load());

@@ -15,7 +15,7 @@
 
 class ReadingProgress;
 
-/// Opens picture files without holding up the window: small ones at once, large ones in a thread
+/// Opens pictures without holding up the window: small ones at once, large ones in a thread
 /// of their own, with a progress panel after half a second.
 class PictureOpener : public QObject
 {
@@ -28,9 +28,9 @@ public:
     explicit PictureOpener(QWidget &progressHost);
     ~PictureOpener() override;
 
-    /// What came of a small file; for a large one nothing yet, and `finished` is called later,
-    /// unless another file is opened before. A reading in progress is given up.
-    [[nodiscard]] std::optional<PictureReading> open(const QString &path, Handler finished);
+    /// What came of a small picture; for a large one nothing yet, and `finished` is called later,
+    /// unless another one is opened before. A reading in progress is given up.
+    [[nodiscard]] std::optional<PictureReading> open(const PictureSource &source, Handler finished);
 
     /// Gives up the reading in progress; its handler is told so.
     void cancel();
@@ -43,13 +43,13 @@ private:
         std::jthread thread;
     };
 
-    void begin(const QString &path, Handler finished);
+    void begin(const PictureSource &source, Handler finished);
     void end(Job *job, const PictureReading &reading);
     void showProgress();
 
     std::list<std::unique_ptr<Job>> m_jobs; ///< with those given up that still wind up
     Job *m_current = nullptr;
-    QString m_fileName;
+    QString m_name; ///< of the picture that is being read
     ReadingProgress *m_progress;
     QTimer m_progressTimer;
 };

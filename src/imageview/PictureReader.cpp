@@ -30,27 +30,28 @@ bool hasWeakSignature(const QByteArray &format)
     return std::find(weak.begin(), weak.end(), format) != weak.end();
 }
 
-std::optional<PictureProblem> problemOfPath(const QString &path)
+std::optional<PictureProblem> problemOfPath(const PictureSource &source)
 {
-    const QFileInfo file(path);
+    if (!source.isFile())
+        return {};
+    const QFileInfo file(source.path());
     if (!file.exists())
         return PictureProblem::Missing;
     if (file.isDir())
         return PictureProblem::Folder;
     if (!file.isFile() || !file.isReadable())
         return PictureProblem::Unreadable;
-    if (file.size() == 0)
-        return PictureProblem::Empty;
     return {};
 }
 
-std::optional<PictureProblem> problemOfFormat(QImageReader &reader, const QString &path)
+std::optional<PictureProblem> problemOfFormat(QImageReader &reader, const PictureSource &source)
 {
     if (!reader.canRead())
         return PictureProblem::NotAPicture;
     const QByteArray format = reader.format();
-    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
-    if (format.isEmpty() || format == "pdf" || (hasWeakSignature(format) && format != suffix))
+    if (format.isEmpty() || format == "pdf")
+        return PictureProblem::NotAPicture;
+    if (hasWeakSignature(format) && format != source.suffix().toLatin1())
         return PictureProblem::NotAPicture;
     return {};
 }
@@ -89,20 +90,22 @@ bool isIncomplete(const PictureFile &file, const QByteArray &format)
 bool isPageDescription(PictureFile &file) { return file.peek(signatureRange).contains("%PDF-"); }
 
 /// Opens `file` for `reader` up to the point where only the decoding is left.
-std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader, const QString &path,
-                                      std::uint64_t memoryLimit)
+std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader,
+                                      const PictureSource &source, std::uint64_t memoryLimit)
 {
-    if (const auto problem = problemOfPath(path))
+    if (const auto problem = problemOfPath(source))
         return problem;
     if (!file.open(QIODevice::ReadOnly))
         return PictureProblem::Unreadable;
+    if (file.size() == 0)
+        return PictureProblem::Empty;
     if (isPageDescription(file))
         return PictureProblem::NotAPicture;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     reader.setDevice(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    if (const auto problem = problemOfFormat(reader, path))
+    if (const auto problem = problemOfFormat(reader, source))
         return problem;
     return problemOfSize(reader, memoryLimit);
 }
@@ -148,27 +151,47 @@ const char *keyOf(PictureProblem problem)
     return "imageview.error.cancelled";
 }
 
+/// For what was handed over, there is nothing to tell about files.
+const char *keyOfHandedOver(PictureProblem problem)
+{
+    switch (problem) {
+    case PictureProblem::Damaged:
+        return "imageview.pasted.damaged";
+    case PictureProblem::TooLarge:
+        return "imageview.pasted.too-large";
+    default:
+        return "imageview.pasted.not-a-picture";
+    }
+}
+
+QString withSize(QString text, QSize size)
+{
+    const auto number = [](int value) { return QString::fromStdString(std::to_string(value)); };
+    text.replace(QStringLiteral("%2"), number(size.width()));
+    return text.replace(QStringLiteral("%3"), number(size.height()));
+}
+
 } // namespace
 
 PictureReader::PictureReader(std::uint64_t memoryLimit)
     : m_memoryLimit(memoryLimit)
 {}
 
-PictureReading PictureReader::probe(const QString &path) const
+PictureReading PictureReader::probe(const PictureSource &source) const
 {
-    PictureFile file(path, {}, nullptr);
+    PictureFile file(source, {}, nullptr);
     QImageReader reader;
-    const std::optional<PictureProblem> problem = prepare(file, reader, path, m_memoryLimit);
+    const std::optional<PictureProblem> problem = prepare(file, reader, source, m_memoryLimit);
     return {{}, problem, reader.device() != nullptr ? reader.size() : QSize()};
 }
 
-PictureReading PictureReader::read(const QString &path, const std::stop_token &stop,
+PictureReading PictureReader::read(const PictureSource &source, const std::stop_token &stop,
                                    std::atomic<int> *percentRead) const
 {
-    PictureFile file(path, stop, percentRead);
+    PictureFile file(source, stop, percentRead);
     QImageReader reader;
     try {
-        if (const auto problem = prepare(file, reader, path, m_memoryLimit))
+        if (const auto problem = prepare(file, reader, source, m_memoryLimit))
             return {{}, problem, reader.device() != nullptr ? reader.size() : QSize()};
         return decoded(file, reader, stop);
     } catch (const std::bad_alloc &) {
@@ -176,12 +199,34 @@ PictureReading PictureReader::read(const QString &path, const std::stop_token &s
     }
 }
 
-QString pictureproblem::explanation(const PictureReading &reading, const QString &path)
+PictureReading PictureReader::read(const QImage &pixels) const
 {
-    const auto text = [](int number) { return QString::fromStdString(std::to_string(number)); };
-    QString explained = texts::localized(keyOf(reading.problem.value()));
-    explained.replace(QStringLiteral("%2"), text(reading.pixelSize.width()));
-    explained.replace(QStringLiteral("%3"), text(reading.pixelSize.height()));
+    if (pixels.isNull())
+        return {{}, PictureProblem::NotAPicture, {}};
+    PictureReading reading{{}, PictureProblem::TooLarge, pixels.size()};
+    if (!picturememory::fits(pixels, m_memoryLimit))
+        return reading;
+    try {
+        reading.picture = Picture::fromImageRep(pixels);
+    } catch (const std::bad_alloc &) {
+        return reading;
+    }
+    if (reading.picture)
+        reading.problem.reset();
+    return reading;
+}
+
+QString pictureproblem::explanation(const PictureReading &reading, const PictureSource &source)
+{
+    if (!source.isFile())
+        return explanation(reading);
+    const QString text =
+        withSize(texts::localized(keyOf(reading.problem.value())), reading.pixelSize);
     // The name comes last: it may hold anything.
-    return explained.replace(QStringLiteral("%1"), QFileInfo(path).fileName());
+    return QString(text).replace(QStringLiteral("%1"), source.name());
+}
+
+QString pictureproblem::explanation(const PictureReading &reading)
+{
+    return withSize(texts::localized(keyOfHandedOver(reading.problem.value())), reading.pixelSize);
 }

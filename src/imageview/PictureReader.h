@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imageview/Picture.h"
+#include "imageview/PictureSource.h"
 
 #include <QSize>
 #include <QString>
@@ -10,7 +11,7 @@
 #include <optional>
 #include <stop_token>
 
-/// Why a file gives no picture.
+/// Why a source gives no picture.
 enum class PictureProblem {
     Missing,
     Folder,
@@ -22,15 +23,15 @@ enum class PictureProblem {
     Cancelled,
 };
 
-/// What came of reading a file: the picture or the problem.
+/// What came of reading: the picture or the problem.
 struct PictureReading
 {
     std::optional<Picture> picture;
     std::optional<PictureProblem> problem;
-    QSize pixelSize; ///< as the file tells it, where it does
+    QSize pixelSize; ///< as the source tells it, where it does
 };
 
-/// Reads picture files of every format that the image plugins know, upright as the camera
+/// Reads pictures of every format that the image plugins know, upright as the camera
 /// held them. Needs no window, and may run in any thread.
 class PictureReader
 {
@@ -38,12 +39,15 @@ public:
     /// `memoryLimit` in bytes: pictures that need more are refused before they are decoded.
     explicit PictureReader(std::uint64_t memoryLimit);
 
-    /// Looks at the file's beginning only: the problem that is known from it, and the size.
-    [[nodiscard]] PictureReading probe(const QString &path) const;
+    /// Looks at the beginning only: the problem that is known from it, and the size.
+    [[nodiscard]] PictureReading probe(const PictureSource &source) const;
 
-    /// Reads the file whole. `percentRead`, which may be null, follows the progress.
-    [[nodiscard]] PictureReading read(const QString &path, const std::stop_token &stop = {},
+    /// Reads the source whole. `percentRead`, which may be null, follows the progress.
+    [[nodiscard]] PictureReading read(const PictureSource &source, const std::stop_token &stop = {},
                                       std::atomic<int> *percentRead = nullptr) const;
+
+    /// Takes pixels that are decoded already.
+    [[nodiscard]] PictureReading read(const QImage &pixels) const;
 
 private:
     std::uint64_t m_memoryLimit;
@@ -52,6 +56,8 @@ private:
 namespace pictureproblem {
 
 /// The reason in the user's words, naming the file.
-[[nodiscard]] QString explanation(const PictureReading &reading, const QString &path);
+[[nodiscard]] QString explanation(const PictureReading &reading, const PictureSource &source);
+/// The same for what was handed over through a pasteboard, in whatever form.
+[[nodiscard]] QString explanation(const PictureReading &reading);
 
 } // namespace pictureproblem

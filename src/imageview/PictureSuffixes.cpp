@@ -1,5 +1,6 @@
 #include "imageview/PictureSuffixes.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace picturesuffixes {
@@ -7,14 +8,20 @@ namespace picturesuffixes {
 QStringList all()
 {
     QStringList suffixes;
-    for (const QByteArray &format : QImageReader::supportedImageFormats()) {
-        // Qt's own reader for PDF knows nothing of pages and boxes.
-        if (format != "pdf")
-            suffixes.append(QString::fromLatin1(format).toLower());
-    }
+    for (const QByteArray &format : QImageReader::supportedImageFormats())
+        suffixes.append(QString::fromLatin1(format).toLower());
+    // Whether or not the toolkit reads it as a bitmap, which is not the way it is opened.
+    suffixes.append(QStringLiteral("pdf"));
     suffixes.removeDuplicates();
     suffixes.sort();
     return suffixes;
+}
+
+bool includesSuffixOf(const QString &path)
+{
+    const QFileInfo file(path);
+    const bool isHiddenName = file.completeBaseName().isEmpty();
+    return !isHiddenName && all().contains(file.suffix(), Qt::CaseInsensitive);
 }
 
 } // namespace picturesuffixes

@@ -4,8 +4,11 @@
 
 namespace picturesuffixes {
 
-/// The extensions of the picture files that can be read, lower case, without their point, in
-/// alphabetical order.
+/// The extensions of the picture files that can be opened (`imageFileTypes`), lower case, without
+/// their point, in alphabetical order.
 [[nodiscard]] QStringList all();
+
+/// Whether the file name of `path` has one of them, in upper or lower case.
+[[nodiscard]] bool includesSuffixOf(const QString &path);
 
 } // namespace picturesuffixes

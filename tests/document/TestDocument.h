@@ -10,6 +10,7 @@
 #include "support/FakeClipboard.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFilePanels.h"
+#include "support/FakePasteboard.h"
 #include "support/RecordingSheets.h"
 #include "ui_MyDocument.h"
 
@@ -37,6 +38,7 @@ public:
 
     CurvegrabPrefs &prefs() override { return m_prefs; }
     Clipboard &clipboard() override { return fakeClipboard; }
+    Pasteboard &pasteboard() override { return fakePasteboard; }
     DocumentMenus::SharedItems sharedItems() override
     {
         return {&showHideTable, &lockUnlockX, &lockUnlockY};
@@ -64,6 +66,7 @@ public:
     QAction lockUnlockX;
     QAction lockUnlockY;
     FakeClipboard fakeClipboard;
+    FakePasteboard fakePasteboard;
     RecordingSheets *sheets = nullptr;
     FakeFilePanels *panels = nullptr;
     FakeDesktop *desktop = nullptr;

@@ -1,6 +1,7 @@
 #include "imageview/PictureReader.h"
 
 #include "imageview/PictureMemory.h"
+#include "imageview/SamplePng.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -34,35 +35,6 @@ QByteArray encoded(const QImage &image, const char *format)
     writer.setQuality(95);
     EXPECT_TRUE(writer.write(image)) << format;
     return bytes;
-}
-
-QByteArray bigEndian(quint32 value)
-{
-    QByteArray bytes;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        bytes.append(static_cast<char>((value >> shift) & 0xffU));
-    return bytes;
-}
-
-quint32 pngChecksum(const QByteArray &bytes)
-{
-    quint32 sum = 0xffffffffU;
-    for (const char byte : bytes) {
-        sum ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = (sum & 1U) != 0 ? (sum >> 1U) ^ 0xedb88320U : sum >> 1U;
-    }
-    return ~sum;
-}
-
-/// The beginning of a PNG file that claims a size.
-QByteArray pngHeader(quint32 width, quint32 height)
-{
-    const QByteArray header =
-        QByteArray("IHDR") + bigEndian(width) + bigEndian(height) + QByteArray("\x08\x06\0\0\0", 5);
-    const QByteArray data = QByteArray("IDAT") + QByteArray(64, 'x');
-    return QByteArray("\x89PNG\r\n\x1a\n") + bigEndian(13) + header +
-           bigEndian(pngChecksum(header)) + bigEndian(64) + data + bigEndian(pngChecksum(data));
 }
 
 /// A JPEG with an EXIF orientation put behind its start marker.
@@ -367,9 +339,10 @@ TEST_F(PictureReaderTest, progressReachesTheEnd)
 TEST_F(PictureReaderTest, explanationsNameTheFileAndTheSize)
 {
     const PictureReading missing{{}, PictureProblem::Missing, {}};
-    EXPECT_TRUE(pictureproblem::explanation(missing, "/a/chart 1.png").contains("“chart 1.png”"));
+    EXPECT_TRUE(
+        pictureproblem::explanation(missing, QString("/a/chart 1.png")).contains("“chart 1.png”"));
     const PictureReading large{{}, PictureProblem::TooLarge, {100'000, 90'000}};
-    const QString text = pictureproblem::explanation(large, "/a/%2.png");
+    const QString text = pictureproblem::explanation(large, QString("/a/%2.png"));
     EXPECT_TRUE(text.contains("“%2.png”")) << text.toStdString();
     EXPECT_TRUE(text.contains("100000 × 90000")) << text.toStdString();
 }

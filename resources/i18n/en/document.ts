@@ -332,10 +332,10 @@
         <translation>Turn a chart into numbers</translation>
     </message>
     <message id="document.empty.steps">
-        <source>1.  Open a picture: a scan, a screenshot or a photo of a chart.
+        <source>1.  Open, paste or drop a picture: a scan, a screenshot or a photo of a chart.
 2.  Drag the anchors onto its axes and type their values.
 3.  Click the data points, then save or copy the numbers.</source>
-        <translation>1.  Open a picture: a scan, a screenshot or a photo of a chart.
+        <translation>1.  Open, paste or drop a picture: a scan, a screenshot or a photo of a chart.
 2.  Drag the anchors onto its axes and type their values.
 3.  Click the data points, then save or copy the numbers.</translation>
     </message>
@@ -479,6 +479,10 @@
         <source>&amp;Copy Selected Series</source>
         <translation>&amp;Copy Selected Series</translation>
     </message>
+    <message id="document.command.paste">
+        <source>&amp;Paste Picture</source>
+        <translation>&amp;Paste Picture</translation>
+    </message>
     <message id="document.command.delete">
         <source>&amp;Delete Points of Selected Series</source>
         <translation>&amp;Delete Points of Selected Series</translation>
@@ -614,8 +618,24 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <translation>Close Anyway</translation>
     </message>
     <message id="document.status.open">
-        <source>Open a picture to begin.</source>
-        <translation>Open a picture to begin.</translation>
+        <source>Open, paste or drop a picture to begin.</source>
+        <translation>Open, paste or drop a picture to begin.</translation>
+    </message>
+    <message id="document.status.dropOpens">
+        <source>Drop to open this picture.</source>
+        <translation>Drop to open this picture.</translation>
+    </message>
+    <message id="document.status.dropReplaces">
+        <source>Drop to replace the picture.</source>
+        <translation>Drop to replace the picture.</translation>
+    </message>
+    <message id="document.status.dropNoPicture">
+        <source>Only pictures and files of pictures can be dropped here.</source>
+        <translation>Only pictures and files of pictures can be dropped here.</translation>
+    </message>
+    <message id="document.status.dropWhileDigitizing">
+        <source>The picture can be replaced on the axis page only: switch there first.</source>
+        <translation>The picture can be replaced on the axis page only: switch there first.</translation>
     </message>
     <message id="document.status.noConverter">
         <source>The axes cannot be used yet: set them on the axis page first.</source>

@@ -53,6 +53,26 @@
         <extracomment>%1 is the name of the file; the user has stopped its reading.</extracomment>
         <translation>“%1” was not opened.</translation>
     </message>
+    <message id="imageview.pasted.name">
+        <source>pasted picture</source>
+        <extracomment>Stands in place of a file name while a large pasted or dropped picture is read.</extracomment>
+        <translation>pasted picture</translation>
+    </message>
+    <message id="imageview.pasted.damaged">
+        <source>The picture from the other program is damaged or incomplete. Copy or drag it once more, or save it to a file there and open that file.</source>
+        <extracomment>A picture was pasted or dropped as data, not as a file.</extracomment>
+        <translation>The picture from the other program is damaged or incomplete. Copy or drag it once more, or save it to a file there and open that file.</translation>
+    </message>
+    <message id="imageview.pasted.not-a-picture">
+        <source>What the other program handed over cannot be read as a picture. Save it there as a PNG file and open that file.</source>
+        <extracomment>Something was pasted or dropped as picture data, not as a file.</extracomment>
+        <translation>What the other program handed over cannot be read as a picture. Save it there as a PNG file and open that file.</translation>
+    </message>
+    <message id="imageview.pasted.too-large">
+        <source>The picture from the other program needs more memory than is free (%2 × %3 pixels). Close other programs, or copy it with fewer pixels.</source>
+        <extracomment>A picture was pasted or dropped as data; %2 is its width and %3 its height.</extracomment>
+        <translation>The picture from the other program needs more memory than is free (%2 × %3 pixels). Close other programs, or copy it with fewer pixels.</translation>
+    </message>
     <message id="imageview.reading.label">
         <source>Opening “%1” …</source>
         <extracomment>%1 is the name of the file.</extracomment>
