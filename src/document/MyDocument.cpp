@@ -224,8 +224,8 @@ menurules::State MyDocument::menuState() const
     return state;
 }
 
-// The program that filled the pasteboard may be slow to answer: it is asked once, and not from
-// behind.
+// The program that filled the pasteboard may be slow to answer: it is asked once per change, and
+// only by the window that is in use.
 bool MyDocument::acceptsPasteboard() const
 {
     if (!isInAxisSettingMode())
