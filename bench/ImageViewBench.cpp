@@ -230,6 +230,31 @@ void anchorDragFrame(benchmark::State &state)
     shown.mouse(QEvent::MouseButtonRelease, {100, bottom - 100});
 }
 
+/// From the answer "Trim" to the trimmed picture on the screen: a rectangle of nearly the whole
+/// picture, turned by state.range(1) degrees.
+void trim(benchmark::State &state)
+{
+    ShownView shown;
+    const QImage pixels = chartOfMegapixels(state.range(0));
+    for (auto step : state) {
+        state.PauseTiming();
+        shown.view->replaceImageWithImageRep(pixels);
+        for (int turned = 0; turned < state.range(1); turned += 90)
+            shown.view->imageRotateCcw();
+        shown.view->rescaleImageWith(0.125F, true);
+        shown.paint();
+        const double bottom = static_cast<double>(shown.view->height());
+        shown.view->setForcedMode(TrimMode);
+        shown.mouse(QEvent::MouseButtonPress, {1, bottom - 1});
+        shown.mouse(QEvent::MouseMove, {static_cast<double>(shown.view->width()) - 1, 1});
+        shown.mouse(QEvent::MouseButtonRelease, {static_cast<double>(shown.view->width()) - 1, 1});
+        shown.paint();
+        state.ResumeTiming();
+        shown.view->trimAlertDidEnd(SheetAnswer::Default);
+        shown.paint();
+    }
+}
+
 } // namespace
 
 BENCHMARK(openTwelveMegapixelFile)->Unit(benchmark::kMillisecond);
@@ -238,6 +263,9 @@ BENCHMARK(zoomStep)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(scrollByAWheelClick)->Arg(12)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(anchorDragFrame)->Arg(12)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK(trim)
+    ->ArgsProduct({{12, 100}, benchmark::CreateDenseRange(0, 270, 90)})
+    ->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {

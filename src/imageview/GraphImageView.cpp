@@ -178,6 +178,7 @@ void GraphImageView::imageRotated()
 
 void GraphImageView::makeScaledImage()
 {
+    abandonZoomArea();
     if (!m_originalImage)
         return;
     m_scaledImage.emplace(*m_originalImage, m_imageScale, m_rotation);
@@ -248,8 +249,11 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
 
 void GraphImageView::settingModeChanged()
 {
+    abandonZoomArea();
     setNeedsDisplay();
     const bool axisSetting = m_outlets.document->isInAxisSettingMode();
+    if (!axisSetting && m_forcedMode == TrimMode)
+        m_forcedMode.reset();
     if (axisSetting) {
         m_outlets.document->removeUndoOfDataSeries();
     } else {

@@ -4,6 +4,8 @@
 #include "geometry/FloatGeometry.h"
 #include "imageview/ArchivedPicture.h"
 #include "imageview/DropTarget.h"
+#include "imageview/MouseCursors.h"
+#include "imageview/MouseDownMode.h"
 #include "imageview/Picture.h"
 #include "imageview/ScaledImage.h"
 
@@ -27,6 +29,7 @@ class PictureSource;
 class QMimeData;
 class QAbstractButton;
 class ZoomSlider;
+enum class SheetAnswer;
 
 /// What the picture view is connected to in its document's window; all of it outlives the view's
 /// use.
@@ -93,6 +96,13 @@ public:
     [[nodiscard]] float imageRotation() const { return m_rotation; }
     /// What a press would do, or does (MouseDownMode).
     [[nodiscard]] int mouseDownMode() const { return m_mouseDownMode; }
+    /// The rectangle that a drag has marked, in view points; createSubImage() turns it into
+    /// picture points.
+    [[nodiscard]] FloatRect zoomAreaRect() const { return m_zoomAreaRect; }
+    /// How far the last move of such a drag was from its start.
+    [[nodiscard]] FloatPoint prevDelta() const { return m_prevDelta; }
+    /// The timer of mouseCheckRoutine().
+    [[nodiscard]] const QTimer &mouseCheckTimer() const { return m_mouseCheckTimer; }
 
     /// Takes the picture of a local file. False: refused, and a sheet says why; the present
     /// picture stays. Large files are read in the background: then true says that reading has
@@ -158,6 +168,17 @@ public:
     /// `mosueDownMode:` is the mode that the modifier keys choose on the present page.
     [[nodiscard]] int mosueDownMode(Qt::KeyboardModifiers modifierFlags) const;
 
+    /// Forces a mode, HandMode to TrimMode, for as long as the modifier keys choose none of these;
+    /// nothing leaves the choice to the page. TrimMode is refused on the digitizing page, and
+    /// dropped when that page comes.
+    void setForcedMode(std::optional<MouseDownMode> mode);
+    [[nodiscard]] std::optional<MouseDownMode> forcedMode() const { return m_forcedMode; }
+
+    /// Cuts zoomAreaRect() out of the picture; nothing if it is empty.
+    [[nodiscard]] std::optional<Picture> createSubImage();
+    /// `trimAlertDidEnd:returnCode:contextInfo:`: the user has answered whether to trim.
+    void trimAlertDidEnd(SheetAnswer returnCode);
+
     void setNeedsDisplay();
 
     /// The point in view coordinates of a point in window coordinates (y upwards from the
@@ -201,6 +222,16 @@ private:
     void mouseUp();
     void dragAnchors(FloatPoint windowPoint);
     void endAnchorDrag(FloatPoint viewPosition);
+    void resetMouse();
+
+    [[nodiscard]] bool isDraggingZoomArea() const;
+    void dragZoomArea(FloatPoint windowPoint);
+    void zoomInWithMouse(bool wasDragged);
+    void zoomOutWithMouse(bool wasDragged);
+    void rescaleToZoomArea(float factor);
+    void askToTrim();
+    void abandonZoomArea();
+    void drawZoomArea(QPainter &painter) const;
 
     void endDragging();
     void setHoveringDrag(HoveringDrag drag);
@@ -212,10 +243,12 @@ private:
     [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint windowPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint pointerInView() const;
-    [[nodiscard]] int modeOfHeldKeys(Qt::KeyboardModifiers modifierFlags) const;
+    [[nodiscard]] int modeOfPress(Qt::KeyboardModifiers modifierFlags) const;
     void setMouseDownMode(int mode);
     void setHover(std::optional<FloatPoint> inPicture);
     void setModeCursor(int mode);
+
+    static constexpr double zoomStep = 1.4142135623730951;
 
     PictureScrollArea &m_scrollArea;
     ImageViewOutlets m_outlets;
@@ -236,6 +269,11 @@ private:
     FloatPoint m_initialMousePos; ///< window coordinates
     FloatPoint m_initialViewPos;
     FloatPoint m_initialOrigin;
+    FloatPoint m_prevDelta;
+    FloatRect m_zoomAreaRect;
+    bool m_trimQuestionIsOpen = false;
+    std::optional<MouseDownMode> m_forcedMode;
+    MouseCursors m_cursors;
 
     bool m_leftButtonIsDown = false; ///< a press that counted, until its release
     bool m_trackingAnchorDrag = false;

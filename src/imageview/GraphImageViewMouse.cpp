@@ -59,9 +59,19 @@ int GraphImageView::mosueDownMode(Qt::KeyboardModifiers modifierFlags) const
     return mousedownmode::modeFor(modifierFlags, m_outlets.document->isInAxisSettingMode());
 }
 
-int GraphImageView::modeOfHeldKeys(Qt::KeyboardModifiers modifierFlags) const
+int GraphImageView::modeOfPress(Qt::KeyboardModifiers modifierFlags) const
 {
-    return m_spaceIsHeld ? HandMode : mosueDownMode(modifierFlags);
+    if (m_spaceIsHeld)
+        return HandMode;
+    const int mode = mosueDownMode(modifierFlags);
+    return mode < HandMode && m_forcedMode ? *m_forcedMode : mode;
+}
+
+void GraphImageView::setForcedMode(std::optional<MouseDownMode> mode)
+{
+    if (mode == TrimMode && !m_outlets.document->isInAxisSettingMode())
+        return;
+    m_forcedMode = mode;
 }
 
 // Press, drag, release
@@ -80,7 +90,7 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
         return;
     m_leftButtonIsDown = true;
     mouseDown(windowPoint(event->position()), viewPoint(event->position()),
-              modeOfHeldKeys(event->modifiers()));
+              modeOfPress(event->modifiers()));
 }
 
 void GraphImageView::mouseMoveEvent(QMouseEvent *event)
@@ -109,6 +119,7 @@ void GraphImageView::mouseDown(FloatPoint windowPoint, FloatPoint viewPosition, 
     setMouseDownMode(mode);
     m_initialMousePos = windowPoint;
     m_initialViewPos = viewPosition;
+    m_prevDelta = {};
     m_justMouseDown = true;
     if (mode == DigitizeMode) {
         const std::shared_ptr<const ZKConvCoordinate> converter =
@@ -127,6 +138,8 @@ void GraphImageView::mouseDragged(FloatPoint windowPoint)
     if (m_mouseDownMode == HandMode) {
         m_scrollArea.scrollPoint({m_initialOrigin.x - (windowPoint.x - m_initialMousePos.x),
                                   m_initialOrigin.y - (windowPoint.y - m_initialMousePos.y)});
+    } else if (m_mouseDownMode > HandMode) {
+        dragZoomArea(windowPoint);
     } else if (m_mouseDownMode == DragAnchorMode) {
         dragAnchors(windowPoint);
         if (m_trackingAnchorDrag)
@@ -152,9 +165,7 @@ void GraphImageView::endAnchorDrag(FloatPoint viewPosition)
 {
     m_outlets.currentAxes->endDrag(viewPosition);
     m_trackingAnchorDrag = false;
-    setMouseDownMode(DigitizeMode);
-    m_justMouseDown = false;
-    m_inDragging = false;
+    resetMouse();
     for (std::unique_ptr<QKeyEvent> &key : std::exchange(m_keysDuringDrag, {}))
         QCoreApplication::postEvent(this, key.release());
     Q_EMIT anchorDragEnded();
@@ -163,7 +174,27 @@ void GraphImageView::endAnchorDrag(FloatPoint viewPosition)
 void GraphImageView::mouseUp()
 {
     setCursor(Qt::ArrowCursor);
+    const bool wasDragged = !m_justMouseDown;
+    const bool hasArea =
+        wasDragged && m_zoomAreaRect.size.width != 0 && m_zoomAreaRect.size.height != 0;
+    if (m_mouseDownMode == ZoomInMode) {
+        zoomInWithMouse(wasDragged);
+    } else if (m_mouseDownMode == ZoomOutMode) {
+        zoomOutWithMouse(wasDragged);
+    } else if (m_mouseDownMode == TrimMode && hasArea) {
+        askToTrim();
+        resetMouse();
+        return; // the rectangle is seen until the answer
+    } else if (m_mouseDownMode == MeasureMode && hasArea) {
+        // The picture stays as it is; the rectangle is left in picture points.
+        static_cast<void>(createSubImage());
+    }
     setNeedsDisplay();
+    resetMouse();
+}
+
+void GraphImageView::resetMouse()
+{
     setMouseDownMode(DigitizeMode);
     m_justMouseDown = false;
     m_inDragging = false;
@@ -177,6 +208,10 @@ void GraphImageView::keyPressEvent(QKeyEvent *event)
     }
     if (m_trackingAnchorDrag) {
         m_keysDuringDrag.emplace_back(event->clone());
+        return;
+    }
+    if (event->key() == Qt::Key_Escape && m_leftButtonIsDown && m_mouseDownMode > HandMode) {
+        abandonZoomArea();
         return;
     }
     QWidget::keyPressEvent(event);
@@ -234,9 +269,11 @@ void GraphImageView::mouseCheckRoutine()
         return;
     }
     const FloatPoint pointer = pointerInView();
+    // What the press began goes on whatever keys are held, also before the first move.
+    const bool pressed = m_leftButtonIsDown;
     if (!isPointerInside(pointer, m_scrollArea.visibleRect())) {
         m_outlets.cursorGuide->clearGuide();
-        if (m_mouseDownMode != DigitizeMode) {
+        if (!pressed && m_mouseDownMode != DigitizeMode) {
             setCursor(Qt::ArrowCursor);
             setMouseDownMode(DigitizeMode);
         }
@@ -245,8 +282,9 @@ void GraphImageView::mouseCheckRoutine()
     }
     setHover(FloatPoint{pointer.x / m_imageScale, pointer.y / m_imageScale});
     if (m_trackingAnchorDrag)
-        return; // what the press began goes on whatever keys are held
-    const int mode = modeOfHeldKeys(m_outlets.document->desktop().modifiers());
+        return;
+    const int mode =
+        pressed ? m_mouseDownMode : modeOfPress(m_outlets.document->desktop().modifiers());
     if (mode >= HandMode) {
         if (mode != m_mouseDownMode)
             setModeCursor(mode);
@@ -275,6 +313,8 @@ void GraphImageView::setModeCursor(int mode)
 {
     if (mode == HandMode)
         setCursor(Qt::OpenHandCursor);
+    else if (mode > HandMode)
+        setCursor(m_cursors.cursorOfMode(mode, devicePixelRatioF()));
 }
 
 // Drawing
@@ -293,6 +333,8 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
         painter.fillRect(dirtyRect, Qt::white);
     if (m_becameDropTarget)
         drawDropVeil(painter, dirtyRect);
+    else if (isDraggingZoomArea() || m_trimQuestionIsOpen)
+        drawZoomArea(painter);
 }
 
 /// The picture with what the present page draws on it.

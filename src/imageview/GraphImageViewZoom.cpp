@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr double zoomStep = 1.4142135623730951;
-
 float limitedScale(float scale)
 {
     if (scale > GraphImageView::maximumScale)

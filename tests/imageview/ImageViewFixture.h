@@ -40,6 +40,7 @@ public:
     std::vector<std::string> calls;
     std::vector<FloatPoint> appended;
     std::vector<Sheet> sheetsShown;
+    std::function<void(SheetAnswer)> answerSheet; ///< of the last one shown
     bool axisSetting = true;
     FloatSize frameSize{637, 607};
     FloatSize screenSize{1280, 1024};
@@ -153,10 +154,11 @@ public:
     void updateImageInfo() override { note("updateImageInfo"); }
     double guideInterval() const override { return interval; }
 
-    void present(const Sheet &sheet, std::function<void(SheetAnswer)> /*ended*/) override
+    void present(const Sheet &sheet, std::function<void(SheetAnswer)> ended) override
     {
         note("sheet");
         sheetsShown.push_back(sheet);
+        answerSheet = std::move(ended);
     }
 
     FloatSize mainScreenSize() const override { return screenSize; }

@@ -347,6 +347,46 @@
         <source>Turn left</source>
         <translation>Turn left</translation>
     </message>
+    <message id="document.tool.pointer.tip">
+        <source>Pointer: click data points, drag the anchors of the axes (Alt+1)</source>
+        <translation>Pointer: click data points, drag the anchors of the axes (Alt+1)</translation>
+    </message>
+    <message id="document.tool.pointer.name">
+        <source>Pointer</source>
+        <translation>Pointer</translation>
+    </message>
+    <message id="document.tool.hand.tip">
+        <source>Hand: drag to scroll the picture (Alt+2, or hold Ctrl)</source>
+        <translation>Hand: drag to scroll the picture (Alt+2, or hold Ctrl)</translation>
+    </message>
+    <message id="document.tool.hand.name">
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message id="document.tool.zoomIn.tip">
+        <source>Zoom in: click, or drag a rectangle that is to fill the view (Alt+3, or hold Ctrl+Alt)</source>
+        <translation>Zoom in: click, or drag a rectangle that is to fill the view (Alt+3, or hold Ctrl+Alt)</translation>
+    </message>
+    <message id="document.tool.zoomIn.name">
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message id="document.tool.zoomOut.tip">
+        <source>Zoom out: click, or drag a rectangle that the view is to shrink into (Alt+4, or hold Ctrl+Alt+Shift)</source>
+        <translation>Zoom out: click, or drag a rectangle that the view is to shrink into (Alt+4, or hold Ctrl+Alt+Shift)</translation>
+    </message>
+    <message id="document.tool.zoomOut.name">
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message id="document.tool.trim.tip">
+        <source>Trim: drag a rectangle to cut the picture down to it, on the axis setting page (Alt+5, or hold Ctrl+Super)</source>
+        <translation>Trim: drag a rectangle to cut the picture down to it, on the axis setting page (Alt+5, or hold Ctrl+Super)</translation>
+    </message>
+    <message id="document.tool.trim.name">
+        <source>Trim</source>
+        <translation>Trim</translation>
+    </message>
     <message id="document.picture.ccw.tip">
         <source>Turn the picture a quarter to the left (Ctrl+L)</source>
         <translation>Turn the picture a quarter to the left (Ctrl+L)</translation>
@@ -527,6 +567,26 @@
         <source>Turn &amp;Right</source>
         <translation>Turn &amp;Right</translation>
     </message>
+    <message id="document.command.pointerTool">
+        <source>&amp;Pointer Tool</source>
+        <translation>&amp;Pointer Tool</translation>
+    </message>
+    <message id="document.command.handTool">
+        <source>&amp;Hand Tool</source>
+        <translation>&amp;Hand Tool</translation>
+    </message>
+    <message id="document.command.zoomInTool">
+        <source>Zoom &amp;In Tool</source>
+        <translation>Zoom &amp;In Tool</translation>
+    </message>
+    <message id="document.command.zoomOutTool">
+        <source>Zoom &amp;Out Tool</source>
+        <translation>Zoom &amp;Out Tool</translation>
+    </message>
+    <message id="document.command.trimTool">
+        <source>&amp;Trim Tool</source>
+        <translation>&amp;Trim Tool</translation>
+    </message>
     <message id="document.command.parallel">
         <source>&amp;Parallel Axes</source>
         <translation>&amp;Parallel Axes</translation>
@@ -648,6 +708,22 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.status.hand">
         <source>Drag to scroll the picture.</source>
         <translation>Drag to scroll the picture.</translation>
+    </message>
+    <message id="document.status.zoomIn">
+        <source>Click to zoom in, or drag a rectangle to fill the view with it.</source>
+        <translation>Click to zoom in, or drag a rectangle to fill the view with it.</translation>
+    </message>
+    <message id="document.status.zoomOut">
+        <source>Click to zoom out, or drag a rectangle for the view to shrink into.</source>
+        <translation>Click to zoom out, or drag a rectangle for the view to shrink into.</translation>
+    </message>
+    <message id="document.status.trim">
+        <source>Drag a rectangle to trim the picture to.</source>
+        <translation>Drag a rectangle to trim the picture to.</translation>
+    </message>
+    <message id="document.status.measure">
+        <source>Drag a rectangle; the picture stays as it is.</source>
+        <translation>Drag a rectangle; the picture stays as it is.</translation>
     </message>
     <message id="document.status.dragAxes">
         <source>Drag the anchors onto the axes of the chart, then type their values.</source>

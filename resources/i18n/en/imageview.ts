@@ -13,6 +13,21 @@
         <extracomment>Explains why the digitizing page cannot take points.</extracomment>
         <translation>The axis settings do not fit together, so points cannot be turned into values. Go back to the axis settings and check that the anchors do not coincide and that the axis values differ.</translation>
     </message>
+    <message id="Trimming">
+        <source>Trim the picture?</source>
+        <extracomment>Title of the question after a rectangle was dragged to trim the picture to.</extracomment>
+        <translation>Trim the picture?</translation>
+    </message>
+    <message id="TrimmingMsg">
+        <source>Everything outside the dashed rectangle is cut off, and the axes go back to their first places. This cannot be undone; the picture file stays as it is.</source>
+        <extracomment>Explains what trimming does.</extracomment>
+        <translation>Everything outside the dashed rectangle is cut off, and the axes go back to their first places. This cannot be undone; the picture file stays as it is.</translation>
+    </message>
+    <message id="Trim">
+        <source>Trim</source>
+        <extracomment>Button: trims the picture.</extracomment>
+        <translation>Trim</translation>
+    </message>
     <message id="imageview.error.missing">
         <source>“%1” could not be found. It may have been moved, renamed or deleted.</source>
         <extracomment>%1 is the name of the file.</extracomment>
