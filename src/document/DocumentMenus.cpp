@@ -2,6 +2,7 @@
 
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
+#include "imageview/MouseDownMode.h"
 #include "platform/Texts.h"
 #include "platform/UndoManager.h"
 
@@ -180,6 +181,34 @@ void DocumentMenus::addPictureMenu()
                menurules::RotateCw,
                {keys("Ctrl+R")},
                &MyDocument::imageRotateCw});
+    menu->addSeparator();
+    m_tools = {add(menu, {"choosePointerTool",
+                          "document.command.pointerTool",
+                          menurules::MouseTool,
+                          {keys("Alt+1")},
+                          &MyDocument::choosePointerTool}),
+               add(menu, {"chooseHandTool",
+                          "document.command.handTool",
+                          menurules::MouseTool,
+                          {keys("Alt+2")},
+                          &MyDocument::chooseHandTool}),
+               add(menu, {"chooseZoomInTool",
+                          "document.command.zoomInTool",
+                          menurules::MouseTool,
+                          {keys("Alt+3")},
+                          &MyDocument::chooseZoomInTool}),
+               add(menu, {"chooseZoomOutTool",
+                          "document.command.zoomOutTool",
+                          menurules::MouseTool,
+                          {keys("Alt+4")},
+                          &MyDocument::chooseZoomOutTool}),
+               add(menu, {"chooseTrimTool",
+                          "document.command.trimTool",
+                          menurules::TrimTool,
+                          {keys("Alt+5")},
+                          &MyDocument::chooseTrimTool})};
+    for (QAction *tool : m_tools)
+        tool->setCheckable(true);
 }
 
 void DocumentMenus::addAxesMenu()
@@ -310,5 +339,8 @@ void DocumentMenus::refreshMarks()
     mark(m_tabs, m_document.isInAxisSettingMode() ? 0 : 1);
     mark(m_axisTypes, m_document.axisType());
     mark(m_drawModes, m_document.drawMode());
+    // The modes of the tools without a gap: setting axes has no tool of its own.
+    const int tool = m_document.mouseTool();
+    mark(m_tools, tool == DigitizeMode ? 0 : tool - DragAnchorMode);
     m_sort->setChecked(m_document.sortsAutomatically());
 }

@@ -64,5 +64,6 @@ private:
     std::vector<QAction *> m_axisTypes;
     std::vector<QAction *> m_drawModes;
     std::vector<QAction *> m_tabs;
+    std::vector<QAction *> m_tools;
     QAction *m_sort = nullptr;
 };

@@ -68,6 +68,26 @@ QString DocumentStatus::hintOfDrag() const
     return {};
 }
 
+// What a drag of HandMode and above will do: the mode under the pointer, and elsewhere that of the
+// chosen tool.
+QString DocumentStatus::hintOfMode() const
+{
+    switch (m_hover ? m_document.graphView().mouseDownMode() : m_document.mouseTool()) {
+    case HandMode:
+        return texts::localized("document.status.hand");
+    case ZoomInMode:
+        return texts::localized("document.status.zoomIn");
+    case ZoomOutMode:
+        return texts::localized("document.status.zoomOut");
+    case TrimMode:
+        return texts::localized("document.status.trim");
+    case MeasureMode:
+        return texts::localized("document.status.measure");
+    default:
+        return {};
+    }
+}
+
 QString DocumentStatus::hint() const
 {
     if (const QString drag = hintOfDrag(); !drag.isEmpty())
@@ -75,8 +95,8 @@ QString DocumentStatus::hint() const
     if (!m_document.hasImage())
         return texts::localized("document.status.open");
     const GraphImageView &view = m_document.graphView();
-    if (m_hover && view.mouseDownMode() == HandMode)
-        return texts::localized("document.status.hand");
+    if (const QString mode = hintOfMode(); !mode.isEmpty())
+        return mode;
     if (m_document.isInAxisSettingMode()) {
         const float scale = view.imageScale();
         const QString part =

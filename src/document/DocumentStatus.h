@@ -28,6 +28,7 @@ private:
     void showScale();
     [[nodiscard]] QString hint() const;
     [[nodiscard]] QString hintOfDrag() const;
+    [[nodiscard]] QString hintOfMode() const;
 
     MyDocument &m_document;
     std::optional<FloatPoint> m_hover; ///< the pointer in picture coordinates

@@ -85,6 +85,11 @@ void DocumentWindow::applyIcons()
     const auto set = [this](QToolButton *button, const char *name) {
         button->setIcon(symbolicons::icon(QString::fromLatin1(name), palette()));
     };
+    set(m_ui->pointerToolButton, "tool-pointer");
+    set(m_ui->handToolButton, "tool-hand");
+    set(m_ui->zoomInToolButton, "tool-zoom-in");
+    set(m_ui->zoomOutToolButton, "tool-zoom-out");
+    set(m_ui->trimToolButton, "tool-trim");
     set(m_ui->rotateCCWButton, "turn-left");
     set(m_ui->rotateCWButton, "turn-right");
     set(m_ui->fitWidthButton, "fit-width");

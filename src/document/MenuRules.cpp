@@ -55,6 +55,7 @@ bool validateMenuItem(int tag, const State &state)
     case OtherPictureCommand:
     case FitWidth:
     case FitHeight:
+    case MouseTool:
         return state.hasImage;
     case ActualSize:
         return state.canZoomToActual;
@@ -72,6 +73,7 @@ bool validateMenuItem(int tag, const State &state)
     case WholePosition:
     case RotateCw:
     case RotateCcw:
+    case TrimTool:
         return axisRule(tag, state);
     default:
         return true;

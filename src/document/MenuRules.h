@@ -43,6 +43,8 @@ enum Tag {
     FitHeight = 8104,
     RotateCw = 8110,
     RotateCcw = 8111,
+    MouseTool = 9000,
+    TrimTool = 9001,
 };
 
 /// Whether the command with `tag` is enabled; a tag without a rule always is.

@@ -7,8 +7,10 @@
 #include "document/ComponentAdapters.h"
 #include "document/DocumentStatus.h"
 #include "document/DocumentWindow.h"
+#include "document/ToolPalette.h"
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
+#include "imageview/MouseDownMode.h"
 #include "imageview/PictureSuffixes.h"
 #include "platform/Pasteboard.h"
 #include "platform/Texts.h"
@@ -51,6 +53,7 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     wire();
     m_menus = new DocumentMenus(*this, *m_window, services.sharedItems());
     m_status = new DocumentStatus(*this);
+    m_tools = new ToolPalette(*this);
     showTitle();
     showsChanged();
 }
@@ -251,6 +254,8 @@ int MyDocument::drawMode() const
 
 bool MyDocument::sortsAutomatically() const { return m_dataSeries->autoSortByX(); }
 
+int MyDocument::mouseTool() const { return m_graphView->forcedMode().value_or(DigitizeMode); }
+
 void MyDocument::perform(int tag, std::function<void()> command)
 {
     if (m_graphView->isTrackingAnchorDrag()) {
@@ -358,9 +363,10 @@ void MyDocument::windowWillClose()
 
 void MyDocument::showsChanged()
 {
-    if (m_menus == nullptr || m_status == nullptr)
+    if (m_menus == nullptr || m_status == nullptr || m_tools == nullptr)
         return;
     m_menus->refresh();
+    m_tools->refresh();
     m_status->refresh();
 }
 
@@ -419,6 +425,16 @@ void MyDocument::zoomToFitHeight() { m_graphView->zoomToFitHeight(); }
 void MyDocument::imageRotateCw() { m_graphView->imageRotateCw(); }
 
 void MyDocument::imageRotateCcw() { m_graphView->imageRotateCcw(); }
+
+void MyDocument::choosePointerTool() { m_graphView->setForcedMode({}); }
+
+void MyDocument::chooseHandTool() { m_graphView->setForcedMode(HandMode); }
+
+void MyDocument::chooseZoomInTool() { m_graphView->setForcedMode(ZoomInMode); }
+
+void MyDocument::chooseZoomOutTool() { m_graphView->setForcedMode(ZoomOutMode); }
+
+void MyDocument::chooseTrimTool() { m_graphView->setForcedMode(TrimMode); }
 
 void MyDocument::chooseParallelAxes() { chooseAxisType(0); }
 

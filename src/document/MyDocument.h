@@ -30,6 +30,7 @@ class DocumentWindow;
 class GraphImageView;
 class ImageViewAdapter;
 class SeriesExport;
+class ToolPalette;
 
 /// One picture being digitized together with everything captured on it: the picture view, the axis
 /// settings, the cursor guide, the data series and the data table, in one window.
@@ -80,6 +81,8 @@ public:
     [[nodiscard]] int axisType() const;
     [[nodiscard]] int drawMode() const;
     [[nodiscard]] bool sortsAutomatically() const;
+    /// The mode that the chosen mouse tool forces; 0 for the pointer, which forces none.
+    [[nodiscard]] int mouseTool() const;
 
     /// Runs a command whose rule allows it now; a command given during an anchor drag waits for its
     /// end.
@@ -126,6 +129,11 @@ public Q_SLOTS:
     void zoomToFitHeight();
     void imageRotateCw();
     void imageRotateCcw();
+    void choosePointerTool();
+    void chooseHandTool();
+    void chooseZoomInTool();
+    void chooseZoomOutTool();
+    void chooseTrimTool();
     void chooseParallelAxes();
     void chooseQuadrangleAxes();
     void choosePolarAxes();
@@ -186,4 +194,5 @@ private:
     std::unique_ptr<SeriesExport> m_seriesExport;
     DocumentMenus *m_menus = nullptr;   // owned by the window
     DocumentStatus *m_status = nullptr; // owned by the window
+    ToolPalette *m_tools = nullptr;     // owned by the window
 };
