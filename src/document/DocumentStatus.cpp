@@ -90,7 +90,7 @@ QString DocumentStatus::hintOfMode() const
 
 QString DocumentStatus::hint() const
 {
-    if (const QString drag = hintOfDrag(); !drag.isEmpty())
+    if (QString drag = hintOfDrag(); !drag.isEmpty())
         return drag;
     if (!m_document.hasImage())
         return texts::localized("document.status.open");
