@@ -2,6 +2,7 @@
 
 #include "imageview/MouseDownMode.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
 #include <QPoint>
@@ -38,7 +39,10 @@ QCursor drawn(const CursorImage &image, qreal pixelRatio)
     renderer.render(&painter);
     painter.end();
     pixmap.setDevicePixelRatio(pixelRatio);
-    return QCursor(pixmap, image.hotSpot.x(), image.hotSpot.y());
+    // X11 looks for the hot spot in the pixels of the picture, other window systems in points.
+    const bool inPixels = QGuiApplication::platformName() == QLatin1String("xcb");
+    const QPoint hotSpot = inPixels ? image.hotSpot * pixelRatio : image.hotSpot;
+    return QCursor(pixmap, hotSpot.x(), hotSpot.y());
 }
 
 } // namespace

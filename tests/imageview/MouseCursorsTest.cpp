@@ -59,9 +59,8 @@ TEST(MouseCursors, theHotSpotLiesInTheMiddleOfTheCross)
 {
     for (const int mode : {ZoomInMode, TrimMode, MeasureMode}) {
         MouseCursors cursors;
-        const QCursor &cursor = cursors.cursorOfMode(mode, 4);
-        const QImage image = cursor.pixmap().toImage();
-        const QPoint middle = cursor.hotSpot() * 4;
+        const QPoint middle = cursors.cursorOfMode(mode, 1).hotSpot() * 4;
+        const QImage image = cursors.cursorOfMode(mode, 4).pixmap().toImage();
         for (int way = 0; way < 8; ++way)
             for (const QPoint step :
                  {QPoint(way, 0), QPoint(-1 - way, 0), QPoint(0, way), QPoint(0, -1 - way)})
