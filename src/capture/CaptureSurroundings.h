@@ -22,6 +22,8 @@ struct PlotStyle
     float size = 0;      ///< side of the marker square, view points
     float thickness = 0; ///< width of outlines and lines, view points
     int shape = 0;       ///< 0 filled square, 1 open square, 2 filled circle, 3 open circle
+
+    friend bool operator==(const PlotStyle &, const PlotStyle &) = default;
 };
 
 /// What data capture needs of its document.

@@ -1,5 +1,6 @@
 #include "capture/MarkerDrawing.h"
 
+#include "capture/PointList.h"
 #include "capture/RasterPlot.h"
 #include "conversion/ZKConvCoordinate.h"
 #include "geometry/ZKVector.h"
@@ -100,7 +101,7 @@ void markerdrawing::drawDataMarkersWithScale(QPainter &painter, float scale,
                                              const MarkerSource &source, const CapturePrefs &prefs)
 {
     for (int series = 0; series < seriesCount; ++series)
-        drawData(painter, source.points(series), source.converterOf(series), scale,
+        drawData(painter, source.list(series).points(), source.converterOf(series), scale,
                  prefs.plotPrefsForSeries(series), source.markerDrawOf(series));
 }
 

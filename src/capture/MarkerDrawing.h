@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class PointList;
 class QPainter;
 class QRectF;
 class ZKConvCoordinate;
@@ -18,7 +19,7 @@ class MarkerSource
 public:
     virtual ~MarkerSource() = default;
     /// The points of a series in graph values, in their order.
-    [[nodiscard]] virtual const std::vector<ZKVector> &points(int series) const = 0;
+    [[nodiscard]] virtual const PointList &list(int series) const = 0;
     /// The converter with which the points of a series were taken.
     [[nodiscard]] virtual std::shared_ptr<const ZKConvCoordinate> converterOf(int series) const = 0;
     /// 0 markers, 1 markers and lines, 2 lines.

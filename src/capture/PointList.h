@@ -25,6 +25,13 @@ public:
     [[nodiscard]] bool isEmpty() const { return size() == 0; }
     [[nodiscard]] std::size_t size() const;
 
+    /// Whether neither changed since one was copied from the other, or both from a third. Costs
+    /// nothing; false says nothing about the points.
+    [[nodiscard]] bool isSameStateAs(const PointList &other) const
+    {
+        return m_version == other.m_version;
+    }
+
     /// The points in order. The reference holds until this list changes, or a copy of it is
     /// read or changed.
     [[nodiscard]] const std::vector<ZKVector> &points() const;

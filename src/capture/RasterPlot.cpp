@@ -16,6 +16,8 @@ namespace {
 
 /// How far, in pixels, a line may pass from a point that was left out.
 constexpr double tolerance = 0.125;
+/// A series of up to so many points needs no help.
+constexpr std::size_t shortSeries = 300;
 /// The rim that antialiasing adds to an outline.
 constexpr double softEdge = 1;
 
@@ -165,9 +167,14 @@ void RasterPlot::drawMarkers(const std::vector<QPointF> &points)
     MarkerStamp stamp(drawing, reach, m_opaque);
     for (const QPointF &point : points) {
         const QPointF pixel = m_toPixels.map(point);
-        if (isWithin(pixel, visible))
+        if (!isWithin(pixel, visible))
+            continue;
+        if (points.size() <= shortSeries)
+            drawing(m_painter, pixel);
+        else
             stamp.putAt(m_painter, pixel);
     }
+    m_painter.setBrush(Qt::NoBrush);
 }
 
 void RasterPlot::drawLine(const std::vector<QPointF> &points)
@@ -179,16 +186,21 @@ void RasterPlot::drawLine(const std::vector<QPointF> &points)
             pixels.push_back(m_toPixels.map(point));
     }
     const double reach = m_pen.widthF() * 0.5 + softEdge;
-    const std::vector<QPolygonF> parts =
-        visibleParts(thinned(pixels), m_visible.adjusted(-reach, -reach, reach, reach));
-    if (m_opaque) {
+    const bool isShort = pixels.size() <= shortSeries;
+    const std::vector<QPolygonF> parts = visibleParts(
+        isShort ? pixels : thinned(pixels), m_visible.adjusted(-reach, -reach, reach, reach));
+    if (m_opaque && !isShort) {
         strokeInPieces(parts);
         return;
     }
     // Pieces of a translucent line would show where they overlap.
     QPainterPath path;
-    for (const QPolygonF &part : parts)
-        path.addPolygon(part);
+    for (const QPolygonF &part : parts) {
+        if (part.boundingRect().size() == QSizeF(0, 0)) // an outline would leave nothing of it
+            m_painter.drawPoint(part.front());
+        else
+            path.addPolygon(part);
+    }
     m_painter.drawPath(path);
 }
 

@@ -14,7 +14,7 @@ class QPainter;
 
 /// Draws one series on a raster surface so that ten thousand points take a few milliseconds: what
 /// cannot be seen is left out, markers and the round joins of lines are stamps, and the line goes
-/// from one to the next without the cost of one long outline.
+/// from one to the next without the cost of one long outline. A short series is drawn as it is.
 ///
 /// While it lives the painter counts in device pixels.
 class RasterPlot

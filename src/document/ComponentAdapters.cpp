@@ -91,9 +91,9 @@ void CaptureAdapter::setLockYTitle(const QString &title)
     m_document.sharedItems().lockUnlockY->setText(title);
 }
 
-const std::vector<ZKVector> &CaptureAdapter::points(int series) const
+const PointList &CaptureAdapter::list(int series) const
 {
-    return m_document.dataSeries().points(series);
+    return m_document.dataSeries().store().list(series);
 }
 
 std::shared_ptr<const ZKConvCoordinate> CaptureAdapter::converterOf(int series) const
@@ -213,7 +213,7 @@ void ImageViewAdapter::appendData(FloatPoint data,
 void ImageViewAdapter::drawDataMarkersWithScale(QPainter &painter, float scale)
 {
     const CaptureAdapter capture(m_document);
-    markerdrawing::drawDataMarkersWithScale(painter, scale, capture, capture);
+    m_markerLayer.draw(painter, scale, capture, capture);
 }
 
 void ImageViewAdapter::updateImageInfo() { m_document.showsChanged(); }

@@ -3,6 +3,7 @@
 #include "axes/AxesSurroundings.h"
 #include "capture/CaptureSurroundings.h"
 #include "capture/MarkerDrawing.h"
+#include "capture/MarkerLayer.h"
 #include "imageview/ImageViewSurroundings.h"
 
 #include <memory>
@@ -81,7 +82,7 @@ public:
     void setLockXTitle(const QString &title) override;
     void setLockYTitle(const QString &title) override;
 
-    [[nodiscard]] const std::vector<ZKVector> &points(int series) const override;
+    [[nodiscard]] const PointList &list(int series) const override;
     [[nodiscard]] std::shared_ptr<const ZKConvCoordinate> converterOf(int series) const override;
     [[nodiscard]] int markerDrawOf(int series) const override;
 
@@ -140,4 +141,5 @@ public:
 
 private:
     MyDocument &m_document;
+    MarkerLayer m_markerLayer;
 };

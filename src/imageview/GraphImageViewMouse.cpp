@@ -340,8 +340,12 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
 /// The picture with what the present page draws on it.
 void GraphImageView::drawPicture(QPainter &painter, const QRect &dirtyRect)
 {
-    m_scaledImage->draw(painter, dirtyRect, visibleRegion().boundingRect());
+    const QRect visible = visibleRegion().boundingRect();
+    m_scaledImage->draw(painter, dirtyRect, visible);
     painter.save();
+    // The clip is the part for which the series keep what they drew.
+    if (visible.contains(dirtyRect))
+        painter.setClipRect(visible);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0, static_cast<qreal>(m_scaledImage->size().height));
     painter.scale(1, -1);

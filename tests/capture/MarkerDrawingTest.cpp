@@ -1,5 +1,6 @@
 #include "capture/MarkerDrawing.h"
 
+#include "capture/PointList.h"
 #include "capture/RasterPlot.h"
 #include "conversion/ZKConvCoordinateAffine.h"
 #include "geometry/ZKVector.h"
@@ -358,7 +359,7 @@ class TenSeries final : public MarkerSource
 {
 public:
     TenSeries() { converters.fill(plainAxes()); }
-    [[nodiscard]] const Points &points(int series) const override
+    [[nodiscard]] const PointList &list(int series) const override
     {
         return lists.at(static_cast<std::size_t>(series));
     }
@@ -371,7 +372,7 @@ public:
         return modes.at(static_cast<std::size_t>(series));
     }
 
-    std::array<Points, 10> lists;
+    std::array<PointList, 10> lists;
     std::array<Converter, 10> converters;
     std::array<int, 10> modes{};
 };
@@ -412,8 +413,8 @@ QImage drawn(const TenSeries &source, float scale = 1)
 TEST(MarkerDrawingOfAllSeries, drawsLaterSeriesOverEarlierOnes)
 {
     TenSeries source;
-    source.lists[9] = {at(30, 30)};
-    source.lists[2] = {at(30, 30), at(10, 10)};
+    source.lists[9] = PointList({at(30, 30)});
+    source.lists[2] = PointList({at(30, 30), at(10, 10)});
     const QImage canvas = drawn(source);
     EXPECT_EQ(colorAt(canvas, 30, 30), GradedPrefs::colorOf(9));
     EXPECT_EQ(colorAt(canvas, 10, 10), GradedPrefs::colorOf(2));
@@ -422,8 +423,8 @@ TEST(MarkerDrawingOfAllSeries, drawsLaterSeriesOverEarlierOnes)
 TEST(MarkerDrawingOfAllSeries, drawsEachWithItsOwnConverter)
 {
     TenSeries source;
-    source.lists[1] = {at(20, 20)};
-    source.lists[4] = {at(20, 20)};
+    source.lists[1] = PointList({at(20, 20)});
+    source.lists[4] = PointList({at(20, 20)});
     source.converters[4] = plainAxes(0.5); // 20 is at pixel 40
     const QImage canvas = drawn(source);
     EXPECT_EQ(colorAt(canvas, 20, 20), GradedPrefs::colorOf(1));
@@ -433,8 +434,8 @@ TEST(MarkerDrawingOfAllSeries, drawsEachWithItsOwnConverter)
 TEST(MarkerDrawingOfAllSeries, drawsEachInItsOwnMode)
 {
     TenSeries source;
-    source.lists[0] = {at(10, 10), at(50, 10)};
-    source.lists[5] = {at(10, 50), at(50, 50)};
+    source.lists[0] = PointList({at(10, 10), at(50, 10)});
+    source.lists[5] = PointList({at(10, 50), at(50, 50)});
     source.modes[5] = 2;
     const QImage canvas = drawn(source);
     EXPECT_EQ(colorAt(canvas, 30, 10), white);
@@ -446,7 +447,7 @@ TEST(MarkerDrawingOfAllSeries, drawsEachInItsOwnMode)
 TEST(MarkerDrawingOfAllSeries, drawsAllAtTheScale)
 {
     TenSeries source;
-    source.lists[3] = {at(20, 20)};
+    source.lists[3] = PointList({at(20, 20)});
     EXPECT_EQ(colorAt(drawn(source, 0.5F), 10, 10), GradedPrefs::colorOf(3));
 }
 
