@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <utility>
 
 namespace {
@@ -75,6 +76,15 @@ Part partUnder(const FloatRect &area, float rotation, const Picture &picture)
             pixelsOf({height - y.high, height - y.low}, Begin::AtLow, rows)};
 }
 
+/// A part of the pixels without a copy of them, which a turned part of a huge picture would only
+/// make once more; valid as long as the pixels are.
+QImage windowOn(const QImage &pixels, const Part &part)
+{
+    const auto first = static_cast<std::ptrdiff_t>(part.columns.first) * pixels.depth() / 8;
+    return {pixels.constScanLine(part.rows.first) + first, part.columns.count, part.rows.count,
+            pixels.bytesPerLine(), pixels.format()};
+}
+
 FloatRect cutTo(FloatSize size, const FloatRect &area)
 {
     const float left = std::max(area.origin.x, 0.0F);
@@ -94,10 +104,10 @@ std::optional<Picture> subimage::cut(const Picture &picture, float rotation, Flo
     if (!(inside.size.width > 0 && inside.size.height > 0))
         return {};
     const Part part = partUnder(inside, rotation, picture);
-    QImage pixels = picture.pixels().copy(part.columns.first, part.rows.first, part.columns.count,
-                                          part.rows.count);
-    if (turnedAside || rotation == 180)
-        pixels = pixels.transformed(QTransform().rotate(-static_cast<qreal>(rotation)));
+    const QImage seen = windowOn(picture.pixels(), part);
+    QImage pixels = turnedAside || rotation == 180
+                        ? seen.transformed(QTransform().rotate(-static_cast<qreal>(rotation)))
+                        : seen.copy();
     const FloatSize upright{part.columns.length, part.rows.length};
     return Picture::fromPixels(std::move(pixels),
                                turnedAside ? FloatSize{upright.height, upright.width} : upright);
