@@ -1,5 +1,6 @@
 #include "axes/CurrentAxes.h"
 
+#include "axes/AnchorMeasures.h"
 #include "axes/AnchorPlacement.h"
 #include "axes/AxesSurroundings.h"
 #include "axes/AxisHints.h"
@@ -22,11 +23,6 @@
 namespace {
 
 constexpr int counterClockwiseId = 0;
-
-ZKVector vectorBetween(FloatPoint from, FloatPoint to)
-{
-    return ZKVector::vectorWithNSPoint(to).subVector(ZKVector::vectorWithNSPoint(from));
-}
 
 } // namespace
 
@@ -87,23 +83,13 @@ void CurrentAxes::awakeFromNib()
 
 // Facts and the converter
 
-double CurrentAxes::bottomLength() const
-{
-    return vectorBetween(m_anchors.anchor1, m_anchors.anchor2).length();
-}
+double CurrentAxes::bottomLength() const { return anchormeasures::bottomLength(m_anchors); }
 
-double CurrentAxes::leftLength() const
-{
-    return vectorBetween(m_anchors.anchor1, m_anchors.anchor4).length();
-}
+double CurrentAxes::leftLength() const { return anchormeasures::leftLength(m_anchors); }
 
 double CurrentAxes::radius() const { return bottomLength(); }
 
-double CurrentAxes::inclination() const
-{
-    return ZKVector::vectorWithX(1, 0).angleDeg(
-        vectorBetween(m_anchors.anchor1, m_anchors.anchor2));
-}
+double CurrentAxes::inclination() const { return anchormeasures::inclination(m_anchors); }
 
 std::shared_ptr<const ZKConvCoordinate> CurrentAxes::makeAxisConverter() const
 {
