@@ -1,5 +1,7 @@
 #include "platform/Texts.h"
 
+#include "platform/NumberText.h"
+
 #include <QCoreApplication>
 
 #include <string>
@@ -27,6 +29,28 @@ QString localizedFormat(const char *key, int value)
         }
         if (isPercent || isValue)
             ++i;
+    }
+    return text;
+}
+
+QString localizedFormat(const char *key, std::initializer_list<double> values)
+{
+    constexpr int markLength = 4;
+    const QString format = localized(key);
+    const double *value = values.begin();
+    QString text;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        const QStringView rest = QStringView(format).mid(i);
+        if (rest.startsWith(u"%%")) {
+            text += u'%';
+            ++i;
+        } else if (rest.size() >= markLength && rest.startsWith(u"%.") && rest.at(2).isDigit() &&
+                   rest.at(3) == u'f' && value != values.end()) {
+            text += QString::fromStdString(numbertext::fixed(*value++, rest.at(2).digitValue()));
+            i += markLength - 1;
+        } else {
+            text += format.at(i);
+        }
     }
     return text;
 }
