@@ -95,7 +95,7 @@ QString DocumentStatus::hint() const
     if (!m_document.hasImage())
         return texts::localized("document.status.open");
     const GraphImageView &view = m_document.graphView();
-    if (const QString mode = hintOfMode(); !mode.isEmpty())
+    if (QString mode = hintOfMode(); !mode.isEmpty())
         return mode;
     if (m_document.isInAxisSettingMode()) {
         const float scale = view.imageScale();
