@@ -212,7 +212,9 @@ QString description(const std::vector<Damage> &damages)
 {
     QStringList sentences;
     for (const Damage &damage : damages) {
-        const QString sentence = texts::localized(textOf(damage.fault)).arg(nameOf(damage.part));
+        QString sentence = texts::localized(textOf(damage.fault));
+        if (sentence.contains(QStringLiteral("%1")))
+            sentence = sentence.arg(nameOf(damage.part));
         if (!sentences.contains(sentence))
             sentences.append(sentence);
     }

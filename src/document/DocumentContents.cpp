@@ -76,6 +76,15 @@ DocumentContents DocumentContents::fromRoot(const ArchiveDictionary &root)
     return contents;
 }
 
+ReadDocumentFile readDocument(const QByteArray &bytes)
+{
+    const documentarchive::Reading reading = documentarchive::unarchived(bytes);
+    ReadDocumentFile result{{}, documentarchive::description(reading.damages), reading.damages};
+    if (reading.isWhole() || !reading.root.entries().empty())
+        result.contents = DocumentContents::fromRoot(reading.root);
+    return result;
+}
+
 ReadDocumentFile readDocumentFile(const QString &path)
 {
     QFile file(path);
@@ -84,9 +93,5 @@ ReadDocumentFile readDocumentFile(const QString &path)
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return {{}, file.errorString(), {}};
-    const documentarchive::Reading reading = documentarchive::unarchived(bytes);
-    ReadDocumentFile result{{}, documentarchive::description(reading.damages), reading.damages};
-    if (!reading.root.entries().empty())
-        result.contents = DocumentContents::fromRoot(reading.root);
-    return result;
+    return readDocument(bytes);
 }

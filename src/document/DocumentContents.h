@@ -6,6 +6,7 @@
 #include "document/DocumentArchive.h"
 #include "geometry/FloatGeometry.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -67,5 +68,8 @@ struct ReadDocumentFile
     std::vector<documentarchive::Damage> damages;
 };
 
-/// Reads the document file at `path`. A damaged one gives what is left, and an error.
+/// Reads a document from the bytes of its file. A damaged one gives what is left, and an error.
+[[nodiscard]] ReadDocumentFile readDocument(const QByteArray &bytes);
+
+/// The same from the file at `path`.
 [[nodiscard]] ReadDocumentFile readDocumentFile(const QString &path);
