@@ -9,7 +9,7 @@ packages_to_run=(
 )
 
 # To run the tests.
-packages_to_test=(libgtest-dev xvfb xauth xdotool openbox)
+packages_to_test=(libgtest-dev xvfb xauth xdotool openbox groff-base)
 
 # To run everything: sanitizers, formatting, lint and a decimal-comma locale.
 packages_to_test_all=(clang-format clang-tidy locales libbenchmark-dev)

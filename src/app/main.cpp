@@ -1,36 +1,91 @@
+#include "app/CommandLine.h"
+#include "app/ConsoleCommands.h"
 #include "document/DocumentController.h"
+#include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "prefs/CurvegrabPrefs.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
+#include <QFile>
 #include <QIcon>
 #include <QTranslator>
 
-int main(int argc, char **argv)
+#include <cstdio>
+
+namespace {
+
+QStringList argumentsAfterName(int argc, char **argv)
 {
-    QApplication application(argc, argv);
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QFile::decodeName(argv[i]);
+    return arguments;
+}
+
+void introduce(QTranslator &texts)
+{
     QCoreApplication::setApplicationName(QStringLiteral("curvegrab"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CURVEGRAB_VERSION));
+    if (texts.load(QStringLiteral(":/i18n/curvegrab_en.qm")))
+        QCoreApplication::installTranslator(&texts);
+}
+
+/// Whether windows have somewhere to open, so that the toolkit does not have to give up.
+bool hasDisplay([[maybe_unused]] const CommandLine &commandLine)
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    return commandLine.choosesPlatform || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+           !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+int runWithoutWindow(int argc, char **argv, const CommandLine &commandLine)
+{
+    const QCoreApplication application(argc, argv);
+    QTranslator texts;
+    introduce(texts);
+    // Without the library's own buffer a write tells at once whether there was room.
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    QFile in;
+    QFile out;
+    QFile err;
+    if (!in.open(stdin, QIODevice::ReadOnly) ||
+        !out.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        !err.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return exitcode::failure;
+    const Console console{in, out, err};
+    if (!consolecommands::serve(commandLine)) {
+        console.complain(texts::localized("app.noDisplay"));
+        return exitcode::failure;
+    }
+    UserDefaults defaults(UserDefaults::standardPath());
+    CurvegrabPrefs prefs(defaults);
+    prefs.awakeFromNib();
+    return consolecommands::run(commandLine, prefs.saveWithTitle(), console);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const CommandLine commandLine = CommandLine::parse(argumentsAfterName(argc, argv));
+    if (consolecommands::serve(commandLine) || !hasDisplay(commandLine))
+        return runWithoutWindow(argc, argv, commandLine);
+
+    QApplication application(argc, argv);
+    QTranslator texts;
+    introduce(texts);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Curvegrab X"));
     QGuiApplication::setDesktopFileName(QStringLiteral("curvegrab"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
-    QTranslator texts;
-    if (texts.load(QStringLiteral(":/i18n/curvegrab_en.qm")))
-        QCoreApplication::installTranslator(&texts);
-
-    QCommandLineParser commandLine;
-    commandLine.setApplicationDescription(qtTrId("app.description"));
-    commandLine.addHelpOption();
-    commandLine.addVersionOption();
-    commandLine.addPositionalArgument(QStringLiteral("pictures"), qtTrId("app.pictures"),
-                                      QStringLiteral("[picture…]"));
-    commandLine.process(application);
 
     UserDefaults defaults(UserDefaults::standardPath());
     CurvegrabPrefs prefs(defaults);
     DocumentController documents(prefs);
     prefs.awakeFromNib();
-    documents.openFiles(commandLine.positionalArguments());
+    documents.openFiles(commandLine.files);
     return QApplication::exec();
 }

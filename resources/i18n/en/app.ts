@@ -3,15 +3,161 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
-    <message id="app.description">
-        <source>Turns the picture of a chart into numbers.</source>
-        <extracomment>The first line of the command line's help.</extracomment>
-        <translation>Turns the picture of a chart into numbers.</translation>
+    <message id="app.help">
+        <source>Usage: curvegrab [FILE…]
+       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --info [--json] FILE…
+
+Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
+FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
+no display and read documents only.
+
+  --export OUT      write the captured data as tab-separated text to the file OUT, or to
+                    standard output if OUT is -; several documents follow each other
+                    with an empty line in between
+  --series LIST     the series to export, for example 1,3-5; all (the default) stands
+                    for every series that holds points
+  --titles          begin with a line of titles
+  --no-titles       write numbers only; without either option the preference
+                    "Save with titles" decides
+  --info            print the size of the picture, the axes and the amount of data
+  --json            print that as one JSON object per line
+  -h, --help        print this help
+  -v, --version     print the version
+  --                take everything that follows as a FILE
+
+FILE may be - to read a document from standard input.
+Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</source>
+        <extracomment>The output of --help, at most 88 characters wide. Options stay as they are.</extracomment>
+        <translation>Usage: curvegrab [FILE…]
+       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --info [--json] FILE…
+
+Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
+FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
+no display and read documents only.
+
+  --export OUT      write the captured data as tab-separated text to the file OUT, or to
+                    standard output if OUT is -; several documents follow each other
+                    with an empty line in between
+  --series LIST     the series to export, for example 1,3-5; all (the default) stands
+                    for every series that holds points
+  --titles          begin with a line of titles
+  --no-titles       write numbers only; without either option the preference
+                    "Save with titles" decides
+  --info            print the size of the picture, the axes and the amount of data
+  --json            print that as one JSON object per line
+  -h, --help        print this help
+  -v, --version     print the version
+  --                take everything that follows as a FILE
+
+FILE may be - to read a document from standard input.
+Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</translation>
     </message>
-    <message id="app.pictures">
-        <source>Pictures of charts to open, each in a window of its own.</source>
-        <extracomment>Explains the command line's arguments.</extracomment>
-        <translation>Pictures of charts to open, each in a window of its own.</translation>
+    <message id="app.standardInput">
+        <source>standard input</source>
+        <extracomment>Stands in messages for the name of a file.</extracomment>
+        <translation>standard input</translation>
+    </message>
+    <message id="app.standardOutput">
+        <source>standard output</source>
+        <extracomment>Stands in messages for the name of a file.</extracomment>
+        <translation>standard output</translation>
+    </message>
+    <message id="app.noDisplay">
+        <source>There is no display to open a window on. 'curvegrab --export - FILE' prints the data of a document, 'curvegrab --help' tells more.</source>
+        <extracomment>On standard error.</extracomment>
+        <translation>There is no display to open a window on. 'curvegrab --export - FILE' prints the data of a document, 'curvegrab --help' tells more.</translation>
+    </message>
+    <message id="app.damaged">
+        <source>Open it in a window to see and save what is left of it.</source>
+        <extracomment>On standard error, after what is wrong with a damaged document.</extracomment>
+        <translation>Open it in a window to see and save what is left of it.</translation>
+    </message>
+    <message id="app.export.noPoints">
+        <source>The document holds no points yet.</source>
+        <extracomment>Why nothing is exported.</extracomment>
+        <translation>The document holds no points yet.</translation>
+    </message>
+    <message id="app.export.noneOfThem">
+        <source>None of these series holds points.</source>
+        <extracomment>Why nothing is exported, when series were asked for.</extracomment>
+        <translation>None of these series holds points.</translation>
+    </message>
+    <message id="app.export.emptySeries">
+        <source>Series %d holds no points and is left out.</source>
+        <extracomment>A warning; %d is the number of the series.</extracomment>
+        <translation>Series %d holds no points and is left out.</translation>
+    </message>
+    <message id="app.export.nothingWritten">
+        <source>Nothing was written.</source>
+        <extracomment>On standard error, after the reasons.</extracomment>
+        <translation>Nothing was written.</translation>
+    </message>
+    <message id="app.export.outputIsInput">
+        <source>This is one of the documents; choose another name for the text.</source>
+        <extracomment>Why a file is not overwritten.</extracomment>
+        <translation>This is one of the documents; choose another name for the text.</translation>
+    </message>
+    <message id="app.usage.hint">
+        <source>Try 'curvegrab --help'.</source>
+        <extracomment>On standard error, after a wrong use.</extracomment>
+        <translation>Try 'curvegrab --help'.</translation>
+    </message>
+    <message id="app.usage.unknown">
+        <source>There is no option '%1'.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>There is no option '%1'.</translation>
+    </message>
+    <message id="app.usage.noValue">
+        <source>The option '%1' needs a value behind it.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>The option '%1' needs a value behind it.</translation>
+    </message>
+    <message id="app.usage.unwantedValue">
+        <source>The option '%1' takes no value.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>The option '%1' takes no value.</translation>
+    </message>
+    <message id="app.usage.series">
+        <source>'%1' is no list of series: write numbers from 1 to 10, such as 1,3-5, or all.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>'%1' is no list of series: write numbers from 1 to 10, such as 1,3-5, or all.</translation>
+    </message>
+    <message id="app.usage.bothTitles">
+        <source>--titles and --no-titles exclude each other.</source>
+        <extracomment>Wrong use of the command line.</extracomment>
+        <translation>--titles and --no-titles exclude each other.</translation>
+    </message>
+    <message id="app.usage.exportAndInfo">
+        <source>--export and --info exclude each other.</source>
+        <extracomment>Wrong use of the command line.</extracomment>
+        <translation>--export and --info exclude each other.</translation>
+    </message>
+    <message id="app.usage.exportOnly">
+        <source>The option '%1' makes sense only together with --export.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>The option '%1' makes sense only together with --export.</translation>
+    </message>
+    <message id="app.usage.infoOnly">
+        <source>The option '%1' makes sense only together with --info.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>The option '%1' makes sense only together with --info.</translation>
+    </message>
+    <message id="app.usage.noFile">
+        <source>Name at least one document.</source>
+        <extracomment>Wrong use of the command line.</extracomment>
+        <translation>Name at least one document.</translation>
+    </message>
+    <message id="app.usage.outputIsDocument">
+        <source>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</translation>
+    </message>
+    <message id="app.usage.openStandardInput">
+        <source>Standard input cannot be opened in a window.</source>
+        <extracomment>Wrong use of the command line.</extracomment>
+        <translation>Standard input cannot be opened in a window.</translation>
     </message>
 </context>
 </TS>

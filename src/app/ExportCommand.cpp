@@ -1,0 +1,118 @@
+#include "app/ExportCommand.h"
+
+#include "app/DocumentInput.h"
+#include "capture/SeriesText.h"
+#include "platform/Texts.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+/// The series to write: those asked for that hold points, as a selection in the table has them.
+IndexSet chosenSeries(const CommandLine &commandLine, const QString &file, const SeriesStore &store,
+                      const Console &console)
+{
+    IndexSet valid = store.validSeriesBetween(0, SeriesStore::seriesCount - 1);
+    if (!commandLine.series)
+        return valid;
+    IndexSet chosen = store.validSeriesWithin(*commandLine.series);
+    for (const int i : *commandLine.series)
+        if (!chosen.contains(i) && !chosen.empty())
+            console.complainAbout(file, texts::localizedFormat("app.export.emptySeries", i + 1));
+    return chosen;
+}
+
+/// The text of one document; nothing if it cannot be had, and the user is told why.
+std::optional<QByteArray> textOf(const QString &file, const CommandLine &commandLine,
+                                 bool withTitle, const Console &console)
+{
+    const std::optional<DocumentContents> contents = documentinput::read(file, console);
+    if (!contents)
+        return std::nullopt;
+    const IndexSet series = chosenSeries(commandLine, file, contents->series, console);
+    const auto text = seriestext::makeString(contents->series, series, withTitle);
+    if (!text) {
+        console.complainAbout(file, texts::localized(commandLine.series ? "app.export.noneOfThem"
+                                                                        : "app.export.noPoints"));
+        return std::nullopt;
+    }
+    return seriestext::lossyAscii(QString::fromStdString(*text));
+}
+
+bool isWritten(QIODevice &device, const QByteArray &bytes)
+{
+    return device.write(bytes) == bytes.size();
+}
+
+/// Writes the file whole or not at all; gives the reason of a failure.
+std::optional<QString> writeFile(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile() && !target.isDir()) {
+        // A device or a pipe: there is nothing that could be replaced.
+        QFile device(path);
+        if (device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && isWritten(device, bytes))
+            return std::nullopt;
+        return device.errorString();
+    }
+    QSaveFile file(path);
+    // Flushed by hand: commit() does not notice when the last buffered bytes find no room.
+    if (file.open(QIODevice::WriteOnly) && isWritten(file, bytes) && file.flush() && file.commit())
+        return std::nullopt;
+    return file.errorString();
+}
+
+/// Writes to where the user wants it; false, and the user is told why, if that fails.
+bool write(const QString &output, const QByteArray &bytes, const Console &console)
+{
+    if (output == CommandLine::standardStream)
+        return console.print(bytes);
+    const std::optional<QString> reason = writeFile(output, bytes);
+    if (reason)
+        console.complainAbout(output, *reason);
+    return !reason;
+}
+
+/// Whether `output` is one of the documents themselves, by whatever name.
+bool isOneOf(const QStringList &files, const QString &output)
+{
+    const QString path = QFileInfo(output).canonicalFilePath();
+    return !path.isEmpty() && std::any_of(files.begin(), files.end(), [&path](const QString &file) {
+        return QFileInfo(file).canonicalFilePath() == path;
+    });
+}
+
+} // namespace
+
+namespace exportcommand {
+
+int run(const CommandLine &commandLine, bool titlesByDefault, const Console &console)
+{
+    const bool writesFile = commandLine.output != CommandLine::standardStream;
+    if (writesFile && isOneOf(commandLine.files, commandLine.output)) {
+        console.complainAbout(commandLine.output, texts::localized("app.export.outputIsInput"));
+        return exitcode::wrongUse;
+    }
+    QByteArray all;
+    bool isWhole = true;
+    const char *separator = "";
+    for (const QString &file : commandLine.files) {
+        const auto text =
+            textOf(file, commandLine, commandLine.titles.value_or(titlesByDefault), console);
+        isWhole = isWhole && text;
+        all += separator + text.value_or(QByteArray());
+        separator = "\n";
+    }
+    if (!isWhole) {
+        console.complain(texts::localized("app.export.nothingWritten"));
+        return exitcode::failure;
+    }
+    return write(commandLine.output, all, console) ? exitcode::success : exitcode::failure;
+}
+
+} // namespace exportcommand

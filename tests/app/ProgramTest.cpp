@@ -1,0 +1,119 @@
+// The built program in a process of its own, without a display.
+#include "app/ConsoleFixture.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+namespace {
+
+struct Result
+{
+    int exitCode = -1;
+    QByteArray out;
+    QString err;
+};
+
+class Program : public ConsoleFixture
+{
+protected:
+    Result program(const QStringList &arguments, const QByteArray &input = {},
+                   const QString &outputFile = {}) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QString::fromLatin1(name));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        if (!outputFile.isEmpty())
+            process.setStandardOutputFile(outputFile);
+        process.start(QStringLiteral(CURVEGRAB_PROGRAM), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+};
+
+} // namespace
+
+TEST_F(Program, exportsWithoutADisplay)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({2}));
+    const Result result = program({"--export", "-", file});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "Series_01_x\tSeries_01_y\n1\t-1\n2\t-2\n");
+    EXPECT_EQ(result.err, QString());
+}
+
+TEST_F(Program, followsThePreferenceForTitles)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({1}));
+    ASSERT_TRUE(QDir().mkpath(path("config/curvegrab")));
+    writeBytes("config/curvegrab/preferences.json", R"({"Save with Titles": false})");
+    EXPECT_EQ(program({"--export", "-", file}).out, "1\t-1\n");
+}
+
+TEST_F(Program, readsADocumentFromAPipe)
+{
+    const Result result = program({"--export", "-", "--no-titles", "-"},
+                                  documentarchive::archivedData(rootWithPoints({1})));
+    EXPECT_EQ(result.out, "1\t-1\n");
+}
+
+TEST_F(Program, printsInfoWithoutADisplay)
+{
+    const QString file =
+        writeDocument("a.crvgrab", sampleroots::root(sampleroots::Kind::Quadrangle));
+    const Result result = program({"--info", file});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.out.contains("Quadrangle"));
+}
+
+TEST_F(Program, printsHelpAndVersionOnStandardOutput)
+{
+    const Result help = program({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_TRUE(help.out.startsWith("Usage: curvegrab"));
+    const Result version = program({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_TRUE(version.out.startsWith("curvegrab ")) << version.out.constData();
+}
+
+TEST_F(Program, wrongUseEndsWithTwoAndAHint)
+{
+    const Result result = program({"--bogus"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.out, QByteArray());
+    EXPECT_TRUE(result.err.startsWith("curvegrab: There is no option '--bogus'."))
+        << qPrintable(result.err);
+    EXPECT_TRUE(result.err.contains("curvegrab --help"));
+}
+
+TEST_F(Program, aMissingFileEndsWithOneAndItsName)
+{
+    const Result result = program({"--export", "-", path("missing.crvgrab")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.err.contains("missing.crvgrab")) << qPrintable(result.err);
+}
+
+TEST_F(Program, aFullDiskBehindStandardOutputEndsWithOne)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({2}));
+    for (const QStringList &arguments :
+         {QStringList{"--export", "-", file}, QStringList{"--info", file}, QStringList{"--help"}}) {
+        const Result result = program(arguments, {}, QStringLiteral("/dev/full"));
+        EXPECT_EQ(result.exitCode, 1) << qPrintable(arguments.join(' '));
+        EXPECT_TRUE(result.err.contains("standard output")) << qPrintable(result.err);
+    }
+}
+
+TEST_F(Program, withoutADisplayAWindowIsRefusedWithAnExplanation)
+{
+    const Result result = program({});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.err.contains("no display")) << qPrintable(result.err);
+    EXPECT_TRUE(result.err.contains("--export"));
+}
