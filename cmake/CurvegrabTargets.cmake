@@ -64,3 +64,16 @@ function(curvegrab_add_catalogue target)
 endfunction()
 
 file(GLOB CURVEGRAB_ICONS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/icons/*.svg)
+
+# curvegrab_add_help(<target>): the help book as the resource :/help/en. The description of the
+# document file is one of its pages.
+file(GLOB CURVEGRAB_HELP CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/help/en/*.html
+    ${PROJECT_SOURCE_DIR}/resources/help/en/*.css
+    ${PROJECT_SOURCE_DIR}/resources/help/en/contents.txt
+    ${PROJECT_SOURCE_DIR}/resources/help/en/pictures/*.png)
+function(curvegrab_add_help target)
+    set(format ${PROJECT_SOURCE_DIR}/docs/file-format.md)
+    set_source_files_properties(${format} PROPERTIES QT_RESOURCE_ALIAS en/file-format.md)
+    qt_add_resources(${target} ${target}_help PREFIX /help BASE ${PROJECT_SOURCE_DIR}/resources/help
+        FILES ${CURVEGRAB_HELP} ${format})
+endfunction()

@@ -111,6 +111,21 @@ void ProgramUnderTest::move(QPoint screenPosition)
              QString::number(screenPosition.y())});
 }
 
+QImage ProgramUnderTest::windowImage()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(activeWindow().toULongLong()).toImage();
+}
+
+QImage ProgramUnderTest::pictureImage() const
+{
+    const QSize size = QImage(m_picturePath).size();
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, m_pictureTopLeft.x(), m_pictureTopLeft.y(), size.width(), size.height())
+        .toImage();
+}
+
+void ProgramUnderTest::hover(QPointF point) { move(onScreen(point)); }
+
 void ProgramUnderTest::click(QPointF point)
 {
     move(onScreen(point));

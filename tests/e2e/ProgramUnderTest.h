@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QPoint>
 #include <QPointF>
 #include <QProcess>
@@ -36,6 +37,13 @@ public:
     void type(const QString &text);
     /// Focuses the field behind an Alt mnemonic, replaces its text and presses Return.
     void enter(const QString &mnemonic, const QString &text);
+
+    /// What the screen shows of the program's window, without the frame around it.
+    [[nodiscard]] static QImage windowImage();
+    /// What the screen shows of the picture.
+    [[nodiscard]] QImage pictureImage() const;
+    /// Puts the pointer at a point without pressing.
+    void hover(QPointF point);
 
     /// The rows of numbers that the save command writes; empty if no file came.
     [[nodiscard]] std::vector<std::vector<double>> savedData();

@@ -1,0 +1,24 @@
+#include "helpbook/HelpBookViewer.h"
+
+#include "helpbook/HelpWindow.h"
+#include "platform/UserDefaults.h"
+
+#include <utility>
+
+HelpBookViewer::HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand)
+    : m_defaults(defaults)
+    , m_keysOfCommand(std::move(keysOfCommand))
+{}
+
+HelpBookViewer::~HelpBookViewer() = default;
+
+void HelpBookViewer::openHelpAnchor(const QString &anchor, const QString &inBook)
+{
+    // There is one book; another one is not there to be opened.
+    if (inBook != QLatin1String(helpbook::bookName))
+        return;
+    if (m_window == nullptr)
+        m_window = std::make_unique<HelpWindow>(
+            inBook, HelpBook(QStringLiteral(":/help/en"), m_keysOfCommand), m_defaults);
+    m_window->showAnchor(anchor);
+}

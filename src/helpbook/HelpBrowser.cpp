@@ -1,0 +1,21 @@
+#include "helpbook/HelpBrowser.h"
+
+#include "helpbook/HelpBook.h"
+
+HelpBrowser::HelpBrowser(const HelpBook &book, QWidget *parent)
+    : QTextBrowser(parent)
+    , m_book(book)
+{
+    setOpenExternalLinks(true);
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl &name)
+{
+    const std::optional<int> page =
+        m_book.indexOf(name.isRelative() ? source().resolved(name) : name);
+    const bool isText =
+        type == QTextDocument::HtmlResource || type == QTextDocument::MarkdownResource;
+    if (isText && page)
+        return m_book.text(m_book.pages()[static_cast<std::size_t>(*page)].file);
+    return QTextBrowser::loadResource(type, name);
+}

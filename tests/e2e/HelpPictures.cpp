@@ -1,0 +1,144 @@
+// Drives the program as a user does and takes the pictures of the help book on the way; the
+// document that it saves is the example document.
+#include "e2e/ProgramUnderTest.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr int widest = 720;
+constexpr int patience = 20000; // milliseconds
+
+bool fail(const char *what)
+{
+    std::fputs(what, stderr);
+    std::fputs("\n", stderr);
+    return false;
+}
+
+/// Writes a compact picture, not wider than the help's text.
+bool keep(const QImage &image, const QString &name)
+{
+    const QImage narrow =
+        image.width() > widest ? image.scaledToWidth(widest, Qt::SmoothTransformation) : image;
+    constexpr int smallest = 0; // the quality that compresses most
+    return narrow.convertToFormat(QImage::Format_RGB888)
+               .save(QStringLiteral(CURVEGRAB_HELP_PICTURES "/") + name, "PNG", smallest) ||
+           fail("a picture cannot be written");
+}
+
+/// A copy of an example in a folder of its own, where the program saves its document beside it.
+class Copy
+{
+public:
+    explicit Copy(const QString &name)
+        : m_path(m_folder.filePath(name))
+    {
+        QFile::copy(QStringLiteral(CURVEGRAB_EXAMPLES "/") + name, m_path);
+    }
+
+    [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] QString documentPath() const
+    {
+        const QFileInfo file(m_path);
+        return file.path() + u'/' + file.completeBaseName() + QStringLiteral(".crvgrab");
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path;
+};
+
+/// Waits until the window has painted what it was told last: until it looks the same twice.
+void settle()
+{
+    QImage before;
+    static_cast<void>(QTest::qWaitFor([&before] {
+        const QImage now = ProgramUnderTest::windowImage();
+        const bool isSame = now == before;
+        before = now;
+        return isSame;
+    }));
+}
+
+bool parallelAxes()
+{
+    const Copy example(QStringLiteral("damped-oscillation.png"));
+    ProgramUnderTest program(example.path());
+    if (!program.waitForPicture())
+        return fail("no picture");
+    if (!keep(program.pictureImage().copy(120, 90, 760, 520), "axes-parallel.png"))
+        return false;
+    program.drag({200, 140}, {100, 84});
+    program.drag({800, 84}, {950, 84});
+    program.drag({100, 560}, {100, 658});
+    program.enter("alt+i", "0");
+    program.enter("alt+x", "10");
+    program.enter("alt+n", "-4");
+    program.enter("alt+m", "6");
+    program.hover({600, 300});
+    settle();
+    if (!keep(ProgramUnderTest::windowImage(), "set-axes.png"))
+        return false;
+    program.key("ctrl+2");
+    for (int i = 0; i < 20; ++i) {
+        const double x = 0.25 + 0.5 * i;
+        const double y = 5 * std::exp(-x / 4) * std::cos(2 * x);
+        program.click({100 + 850 * x / 10, 84 + 574 * (y + 4) / 10});
+    }
+    program.hover({700, 420});
+    settle();
+    if (!keep(ProgramUnderTest::windowImage(), "digitize.png"))
+        return false;
+    program.key("ctrl+s");
+    if (!QTest::qWaitFor([&example] { return QFile::exists(example.documentPath()); }, patience))
+        return fail("no document");
+    const QString target = QStringLiteral(CURVEGRAB_EXAMPLES "/damped-oscillation.crvgrab");
+    QFile::remove(target);
+    return QFile::copy(example.documentPath(), target) || fail("the document cannot be copied");
+}
+
+bool quadrangleAxes()
+{
+    const Copy example(QStringLiteral("slanted-chart.png"));
+    ProgramUnderTest program(example.path());
+    if (!program.waitForPicture())
+        return fail("no picture");
+    program.key("alt+a");
+    program.key("q");
+    program.drag({200, 140}, {120, 90});
+    program.drag({800, 140}, {880, 150});
+    program.drag({800, 560}, {800, 610});
+    program.drag({200, 560}, {190, 560});
+    program.hover({20, 20});
+    settle();
+    return keep(program.pictureImage(), "axes-quadrangle.png");
+}
+
+bool polarAxes()
+{
+    const Copy example(QStringLiteral("cardioid-polar.png"));
+    ProgramUnderTest program(example.path());
+    if (!program.waitForPicture())
+        return fail("no picture");
+    program.key("alt+a");
+    program.key("o");
+    program.hover({10, 10});
+    settle();
+    return keep(program.pictureImage(), "axes-polar.png");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    return quadrangleAxes() && polarAxes() && parallelAxes() ? 0 : 1;
+}
