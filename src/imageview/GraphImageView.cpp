@@ -126,6 +126,7 @@ bool GraphImageView::replaceImageWith(std::optional<Picture> image)
 {
     const bool taken = image.has_value();
     if (taken) {
+        abandonPress();
         m_originalImage = std::move(image);
         m_archivedImage.reset();
         m_rotation = 0;

@@ -223,6 +223,7 @@ private:
     void dragAnchors(FloatPoint windowPoint);
     void endAnchorDrag(FloatPoint viewPosition);
     void resetMouse();
+    void abandonPress();
 
     [[nodiscard]] bool isDraggingZoomArea() const;
     void dragZoomArea(FloatPoint windowPoint);
@@ -276,7 +277,9 @@ private:
     MouseCursors m_cursors;
 
     bool m_leftButtonIsDown = false; ///< a press that counted, until its release
+    bool m_windowIsBlocked = false;  ///< a sheet is open, and no release arrives
     bool m_trackingAnchorDrag = false;
+    FloatPoint m_anchorDragPosition; ///< of its last move, in view points
     std::vector<std::unique_ptr<QKeyEvent>> m_keysDuringDrag;
     bool m_spaceIsHeld = false;
     bool m_windowWasActive = false;

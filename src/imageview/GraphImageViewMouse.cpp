@@ -91,16 +91,21 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
     m_leftButtonIsDown = true;
     mouseDown(windowPoint(event->position()), viewPoint(event->position()),
               modeOfPress(event->modifiers()));
+    // The press took the focus from a field whose value needed a word.
+    if (m_windowIsBlocked)
+        abandonPress();
 }
 
 void GraphImageView::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_leftButtonIsDown)
         return;
-    if (m_trackingAnchorDrag)
-        m_outlets.currentAxes->continueDrag(viewPoint(event->position()));
-    else
+    if (m_trackingAnchorDrag) {
+        m_anchorDragPosition = viewPoint(event->position());
+        m_outlets.currentAxes->continueDrag(m_anchorDragPosition);
+    } else {
         mouseDragged(windowPoint(event->position()));
+    }
 }
 
 void GraphImageView::mouseReleaseEvent(QMouseEvent *event)
@@ -156,8 +161,9 @@ void GraphImageView::dragAnchors(FloatPoint windowPoint)
         m_outlets.document->undoManager().setActionName(texts::localized("actionAxisChange"));
         m_outlets.currentAxes->registerUndoOfAnchors();
     }
+    m_anchorDragPosition = convertPointFromWindow(windowPoint);
     m_outlets.currentAxes->dragAnchor(convertPointFromWindow(m_initialMousePos),
-                                      convertPointFromWindow(windowPoint));
+                                      m_anchorDragPosition);
     m_trackingAnchorDrag = m_outlets.currentAxes->isDragging();
 }
 
@@ -200,6 +206,24 @@ void GraphImageView::resetMouse()
     m_inDragging = false;
 }
 
+/// Ends what a press began without its release, which will not come or not matter any more.
+void GraphImageView::abandonPress()
+{
+    if (!m_leftButtonIsDown)
+        return;
+    if (m_mouseDownMode > HandMode) {
+        abandonZoomArea();
+        return;
+    }
+    m_leftButtonIsDown = false;
+    if (m_trackingAnchorDrag) {
+        endAnchorDrag(m_anchorDragPosition);
+        return;
+    }
+    setCursor(Qt::ArrowCursor);
+    resetMouse();
+}
+
 void GraphImageView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && hasImage()) {
@@ -235,8 +259,14 @@ void GraphImageView::focusOutEvent(QFocusEvent *event)
 
 bool GraphImageView::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         m_windowWasActive = true;
+    } else if (event->type() == QEvent::WindowBlocked) {
+        m_windowIsBlocked = true;
+        abandonPress();
+    } else if (event->type() == QEvent::WindowUnblocked) {
+        m_windowIsBlocked = false;
+    }
     return QWidget::event(event);
 }
 

@@ -99,7 +99,8 @@ void GraphImageView::rescaleImageWith(float scale, FloatPoint atCenter, bool sli
 
 void GraphImageView::zoomAbout(double factor, QPointF viewportPosition)
 {
-    if (!hasImage())
+    // What is being dragged counts on the scale at its press.
+    if (!hasImage() || m_leftButtonIsDown)
         return;
     const float newScale = limitedScale(static_cast<float>(m_imageScale * factor));
     if (newScale == m_imageScale)
