@@ -214,3 +214,14 @@ TEST_F(GraphImageViewCursorTest, theTimerRunsOnlyWithAPicture)
     view->windowWillClose();
     EXPECT_FALSE(view->mouseCheckTimer().isActive());
 }
+
+TEST_F(GraphImageViewCursorTest, theTimerStopsWithThePicture)
+{
+    show();
+    const ArchiveDictionary withoutPicture = view->dataForSave();
+    install(400, 300);
+    view->setButtonStates();
+    ASSERT_TRUE(view->mouseCheckTimer().isActive());
+    view->loadFromData(&withoutPicture);
+    EXPECT_FALSE(view->mouseCheckTimer().isActive());
+}

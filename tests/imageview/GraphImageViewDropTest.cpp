@@ -139,6 +139,32 @@ TEST_F(DropTest, aDropInstallsThePictureAndLiftsTheVeil)
     EXPECT_EQ(view->imageSize(), (FloatSize{330, 200}));
 }
 
+TEST_F(DropTest, theVeilIsLiftedBeforeThePictureIsRead)
+{
+    install(500, 400);
+    show();
+    enter(middle, picture);
+    bool veiled = true;
+    around.whenAnchorRectsAreMade = [&] { veiled = view->becameDropTarget(); };
+    drop(middle, picture);
+    EXPECT_FALSE(veiled);
+}
+
+TEST_F(DropTest, theVeilTakesThePlaceOfADraggedRectangle)
+{
+    install(500, 400);
+    show();
+    constexpr auto zoomInKeys = Qt::ControlModifier | Qt::AltModifier;
+    press({100, 100}, zoomInKeys);
+    drag({100, 100}, zoomInKeys);
+    const QPoint onRectangle(101, 100);
+    EXPECT_NE(colourAt(onRectangle), QColor(0, 0, 255));
+    view->draggingEntered(&picture);
+    EXPECT_EQ(colourAt(onRectangle), colourAt({150, 150}));
+    view->draggingExited();
+    EXPECT_NE(colourAt(onRectangle), QColor(0, 0, 255));
+}
+
 TEST_F(DropTest, theAreaBesideASmallPictureTakesDrops)
 {
     install(330, 200);

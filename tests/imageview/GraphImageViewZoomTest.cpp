@@ -210,6 +210,29 @@ TEST_F(GraphImageViewZoomTest, theOriginComesFromTheOldScaleAndTheLimitedNewOne)
     EXPECT_EQ(area->visibleOrigin(), (FloatPoint{400, 350}));
 }
 
+TEST_F(GraphImageViewZoomTest, theNewSizeLimitsTheScrollNotTheOldOne)
+{
+    showPicture(1000, 800);
+    view->rescaleImageWith(2, {900, 700}, true);
+    EXPECT_EQ(area->visibleOrigin(), (FloatPoint{1600, 1250}));
+}
+
+TEST_F(GraphImageViewZoomTest, theAnchorsAreLaidOutBetweenTheNewSizeAndTheScroll)
+{
+    showPicture(1000, 800);
+    area->scrollPoint({10, 20});
+    FloatSize size;
+    FloatPoint origin;
+    around.whenAnchorRectsAreMade = [&] {
+        size = view->scaledImageSize();
+        origin = area->visibleOrigin();
+    };
+    view->rescaleImageWith(2, {500, 400}, true);
+    EXPECT_EQ(size, (FloatSize{2000, 1600}));
+    EXPECT_EQ(origin, (FloatPoint{10, 20}));
+    EXPECT_EQ(area->visibleOrigin(), (FloatPoint{800, 650}));
+}
+
 TEST_F(GraphImageViewZoomTest, theMiddleStaysInTheMiddle)
 {
     showPicture(2000, 1600);

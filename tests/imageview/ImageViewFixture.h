@@ -48,6 +48,7 @@ public:
     Qt::KeyboardModifiers held;
     double interval = 0.2;
     bool anchorIsHit = true;
+    std::function<void()> whenAnchorRectsAreMade;
     bool dragging = false;
     FloatPoint dragStart;
     std::vector<FloatPoint> dragPositions;
@@ -80,7 +81,12 @@ public:
 
     void resetPositionFromImageView() override { note("resetPosition:view"); }
     void resetPosition() override { note("resetPosition:"); }
-    void makeAnchorRectsWithScale(float /*scale*/) override { note("makeAnchorRects"); }
+    void makeAnchorRectsWithScale(float /*scale*/) override
+    {
+        note("makeAnchorRects");
+        if (whenAnchorRectsAreMade)
+            whenAnchorRectsAreMade();
+    }
     void drawAxisWithScale(QPainter &painter, float /*scale*/) override
     {
         note("drawAxis");
