@@ -12,6 +12,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -22,6 +23,16 @@ bool isPointerInside(FloatPoint p, const FloatRect &rect)
 {
     return p.x >= rect.origin.x && p.x < rect.origin.x + rect.size.width && p.y > rect.origin.y &&
            p.y <= rect.origin.y + rect.size.height;
+}
+
+/// An interval of a timer. A stored one may be any number.
+int milliseconds(double seconds)
+{
+    constexpr double shortest = 0.001;
+    constexpr double longest = 1000;
+    if (!(seconds > shortest))
+        return 1;
+    return static_cast<int>(std::lround(std::min(seconds, longest) * 1000));
 }
 
 } // namespace
@@ -279,8 +290,7 @@ void GraphImageView::startMouseChecking()
         return;
     }
     if (!m_mouseCheckTimer.isActive())
-        m_mouseCheckTimer.start(
-            static_cast<int>(std::lround(m_outlets.prefs->guideInterval() * 1000)));
+        m_mouseCheckTimer.start(milliseconds(m_outlets.prefs->guideInterval()));
 }
 
 void GraphImageView::stopMouseChecking()

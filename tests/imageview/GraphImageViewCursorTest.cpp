@@ -2,6 +2,7 @@
 
 #include <QCursor>
 
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -190,6 +191,18 @@ TEST_F(GraphImageViewCursorTest, theTimerTicksInThePreferredInterval)
     view->prefsChanged();
     EXPECT_TRUE(view->mouseCheckTimer().isActive());
     EXPECT_EQ(view->mouseCheckTimer().interval(), 200);
+}
+
+TEST_F(GraphImageViewCursorTest, aStoredIntervalOfNoUseLeavesTheComputerRoomToBreathe)
+{
+    showPicture(false);
+    for (const double interval : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
+        around.interval = interval;
+        view->startMouseChecking();
+        EXPECT_TRUE(view->mouseCheckTimer().isActive()) << interval;
+        EXPECT_GE(view->mouseCheckTimer().interval(), 1) << interval;
+        view->stopMouseChecking();
+    }
 }
 
 TEST_F(GraphImageViewCursorTest, aRunningTimerIsLeftAlone)
