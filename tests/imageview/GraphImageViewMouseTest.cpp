@@ -185,6 +185,16 @@ TEST_F(GraphImageViewMouseTest, theSpaceBarMakesTheHand)
     EXPECT_EQ(around.appended.size(), 1U);
 }
 
+TEST_F(GraphImageViewMouseTest, aSpaceBarThatComesUpElsewhereMakesNoHand)
+{
+    showPicture(1000, 800, false);
+    view->setFocus();
+    QTest::keyPress(view, Qt::Key_Space);
+    fitWidth->setFocus();
+    press({500, 400});
+    EXPECT_EQ(around.appended.size(), 1U);
+}
+
 TEST_F(GraphImageViewMouseTest, anAnchorDragRunsFromTheFirstMoveToTheRelease)
 {
     showPicture(400, 300, true);

@@ -279,6 +279,17 @@ TEST_F(GraphImageViewTest, closingTheWindowGivesThePictureBack)
     EXPECT_EQ(around.count("clearGuide"), 1);
 }
 
+TEST_F(GraphImageViewTest, closingTheWindowGivesUpTheFileBeingRead)
+{
+    const QString path = savedPicture(2500, 1700);
+    const QSignalSpy opened(view, &GraphImageView::fileOpened);
+    view->openImageFile(QUrl::fromLocalFile(path));
+    view->windowWillClose();
+    ASSERT_EQ(opened.count(), 1);
+    EXPECT_FALSE(opened.at(0).at(0).toBool());
+    EXPECT_TRUE(around.sheetsShown.empty());
+}
+
 TEST_F(GraphImageViewTest, savesItsFourKeys)
 {
     show();
