@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
 #include <QToolBar>
@@ -84,6 +85,7 @@ void HelpWindow::showAnchor(const QString &anchor)
 void HelpWindow::makeContents()
 {
     m_contents->setObjectName(QStringLiteral("helpContents"));
+    m_contents->setSpacing(2);
     m_contents->setAccessibleName(texts::localized("help.contents"));
     for (const HelpBook::Page &page : m_book.pages())
         m_contents->addItem(page.title);
@@ -153,6 +155,8 @@ void HelpWindow::makeToolBar()
 
 void HelpWindow::pageChanged(const QUrl &url)
 {
+    // The contents follow; they do not open the page once more.
+    const QSignalBlocker blocker(m_contents);
     if (const std::optional<int> row = m_book.indexOf(url))
         m_contents->setCurrentRow(*row);
     m_findBar->refresh();

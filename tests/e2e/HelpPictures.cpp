@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr int widest = 720;
+constexpr int windowWidth = 720; // that of the help's text
+constexpr int detailWidth = 480;
 constexpr int patience = 20000; // milliseconds
 
 bool fail(const char *what)
@@ -23,8 +24,8 @@ bool fail(const char *what)
     return false;
 }
 
-/// Writes a compact picture, not wider than the help's text.
-bool keep(const QImage &image, const QString &name)
+/// Writes a compact picture, not wider than `widest`.
+bool keep(const QImage &image, const QString &name, int widest)
 {
     const QImage narrow =
         image.width() > widest ? image.scaledToWidth(widest, Qt::SmoothTransformation) : image;
@@ -74,7 +75,7 @@ bool parallelAxes()
     ProgramUnderTest program(example.path());
     if (!program.waitForPicture())
         return fail("no picture");
-    if (!keep(program.pictureImage().copy(120, 90, 760, 520), "axes-parallel.png"))
+    if (!keep(program.pictureImage().copy(120, 90, 760, 520), "axes-parallel.png", detailWidth))
         return false;
     program.drag({200, 140}, {100, 84});
     program.drag({800, 84}, {950, 84});
@@ -85,7 +86,7 @@ bool parallelAxes()
     program.enter("alt+m", "6");
     program.hover({600, 300});
     settle();
-    if (!keep(ProgramUnderTest::windowImage(), "set-axes.png"))
+    if (!keep(ProgramUnderTest::windowImage(), "set-axes.png", windowWidth))
         return false;
     program.key("ctrl+2");
     for (int i = 0; i < 20; ++i) {
@@ -95,7 +96,7 @@ bool parallelAxes()
     }
     program.hover({700, 420});
     settle();
-    if (!keep(ProgramUnderTest::windowImage(), "digitize.png"))
+    if (!keep(ProgramUnderTest::windowImage(), "digitize.png", windowWidth))
         return false;
     program.key("ctrl+s");
     if (!QTest::qWaitFor([&example] { return QFile::exists(example.documentPath()); }, patience))
@@ -119,7 +120,7 @@ bool quadrangleAxes()
     program.drag({200, 560}, {190, 560});
     program.hover({20, 20});
     settle();
-    return keep(program.pictureImage(), "axes-quadrangle.png");
+    return keep(program.pictureImage(), "axes-quadrangle.png", detailWidth);
 }
 
 bool polarAxes()
@@ -132,7 +133,7 @@ bool polarAxes()
     program.key("o");
     program.hover({10, 10});
     settle();
-    return keep(program.pictureImage(), "axes-polar.png");
+    return keep(program.pictureImage(), "axes-polar.png", detailWidth);
 }
 
 } // namespace

@@ -85,6 +85,12 @@ TEST_F(HelpWindowTest, opensScrolledToAnAnchor)
     EXPECT_GT(page()->verticalScrollBar()->value(), 0);
 }
 
+TEST_F(HelpWindowTest, afterOpeningAtAnAnchorThereIsNoWayBack)
+{
+    show(QStringLiteral("deep"));
+    EXPECT_FALSE(child<QAction>("helpBack")->isEnabled());
+}
+
 TEST_F(HelpWindowTest, aClickOnTheContentsOpensThePage)
 {
     show();
