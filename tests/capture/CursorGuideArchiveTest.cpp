@@ -123,6 +123,32 @@ TEST_F(CursorGuideArchive, loadingTheSteppedModeComputesX)
     EXPECT_EQ(currentX->text(), "         3");
 }
 
+TEST_F(CursorGuideArchive, loadingTheEqualModeLocksXToTheFirstSeries)
+{
+    chooseMode(2);
+    ArchiveDictionary saved = guide.dataForSave();
+    saved.set("Current X Value", ArchiveValue{99.0});
+    chooseMode(0);
+    series.series = 4;
+    series.firstX = 2.5;
+    EXPECT_TRUE(guide.loadFromData(&saved));
+    EXPECT_EQ(guide.autoXMode(), 2);
+    EXPECT_TRUE(guide.lockX());
+    EXPECT_FALSE(lockXCheck->isEnabled());
+    EXPECT_EQ(currentX->text(), "       2.5");
+}
+
+TEST_F(CursorGuideArchive, loadingTitlesTheCommandsAfterTheLoadedConverter)
+{
+    guide.setConverter(degrees());
+    ArchiveDictionary saved = guide.dataForSave();
+    saved.set("Lock Y Value", ArchiveValue{true});
+    guide.setConverter(nullptr);
+    EXPECT_TRUE(guide.loadFromData(&saved));
+    EXPECT_EQ(menu.x, texts::localized("LockTValue"));
+    EXPECT_EQ(menu.y, texts::localized("UnlockRValue"));
+}
+
 TEST_F(CursorGuideArchive, loadingEndsWithTheActionOfTheMode)
 {
     const ArchiveDictionary saved = guide.dataForSave();

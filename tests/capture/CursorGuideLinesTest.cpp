@@ -11,6 +11,15 @@ constexpr QRgb white = qRgb(255, 255, 255);
 
 using CursorGuideGuide = CursorGuideFixture;
 
+/// How many pixels of the column above `x` are coloured from `from` up to below `to`.
+int thicknessOver(const QImage &canvas, int x, int from, int to)
+{
+    int count = 0;
+    for (int y = from; y < to; ++y)
+        count += canvas.pixel(x, canvas.height() - 1 - y) != white ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
 // --- The guide
@@ -65,6 +74,61 @@ TEST_F(CursorGuideGuide, followsTheSmallestMove)
     EXPECT_EQ(view.redraws, 2);
 }
 
+TEST_F(CursorGuideGuide, stayingWhereItWasClearedKeepsItHidden)
+{
+    guide.setConverter(tenths());
+    guide.drawGuide({40, 60}, 1);
+    guide.clearGuide();
+    guide.drawGuide({40, 60}, 1);
+    EXPECT_FALSE(guide.showGuide());
+    guide.drawGuide({41, 60}, 1);
+    EXPECT_TRUE(guide.showGuide());
+}
+
+TEST_F(CursorGuideGuide, comesBackWhereItWasClearedOnceXWasComputedAnew)
+{
+    chooseMode(1);
+    guide.setConverter(tenths());
+    guide.drawGuide({40, 60}, 1);
+    guide.clearGuide();
+    guide.setAutoXValue();
+    guide.drawGuide({40, 60}, 1);
+    EXPECT_TRUE(guide.showGuide());
+}
+
+TEST_F(CursorGuideGuide, builtByForceIsNotBuiltAgainThere)
+{
+    guide.setConverter(tenths());
+    guide.drawGuide({1, 1}, 1);
+    guide.forceDrawGuide({40, 60}, 1);
+    guide.drawGuide({40, 60}, 1);
+    EXPECT_EQ(view.redraws, 2);
+}
+
+TEST_F(CursorGuideGuide, triedWithoutConverterNeedsNoOtherRebuild)
+{
+    ASSERT_TRUE(guide.forceRefresh());
+    guide.drawGuide({40, 60}, 1);
+    EXPECT_FALSE(guide.forceRefresh());
+}
+
+TEST_F(CursorGuideGuide, wakesUpHiddenAndAsksForARebuild)
+{
+    guide.setConverter(tenths());
+    guide.drawGuide({40, 60}, 1);
+    lockXCheck->setChecked(true);
+    lockYCheck->setChecked(true);
+    autoXModePopUp->setCurrentIndex(2);
+    guide.awakeFromNib();
+    EXPECT_FALSE(guide.showGuide());
+    EXPECT_TRUE(guide.forceRefresh());
+    EXPECT_TRUE(guide.lockX());
+    EXPECT_TRUE(guide.lockY());
+    EXPECT_EQ(guide.autoXMode(), 2);
+    EXPECT_EQ(menu.x, texts::localized("UnlockXValue"));
+    EXPECT_EQ(menu.y, texts::localized("UnlockYValue"));
+}
+
 TEST_F(CursorGuideGuide, ofStraightAxesPassesThroughTheCursor)
 {
     guide.setConverter(tenths());
@@ -92,6 +156,56 @@ TEST_F(CursorGuideGuide, withALockedXPassesThroughThatValue)
     guide.forceDrawGuide({40, 60}, 2);
     expectEnds(guide.guide().guide1(), {0, 60}, {400, 60});
     expectEnds(guide.guide().guide2(), {180, 0}, {180, 300});
+}
+
+TEST_F(CursorGuideGuide, followsSlantedAxes)
+{
+    guide.setConverter(slanted());
+    guide.forceDrawGuide({100, 100}, 2);
+    expectEnds(guide.guide().guide1(), {0, 50}, {400, 250});
+    expectEnds(guide.guide().guide2(), {50, 0}, {200, 300});
+}
+
+TEST_F(CursorGuideGuide, ofConvergingAxesRunsToTheirVanishingPoint)
+{
+    guide.setConverter(converging());
+    guide.forceDrawGuide({260, 200}, 2); // (130, 100) on the picture; the edges meet at (200, 400)
+    expectEnds(guide.guide().guide1(), {0, 200}, {400, 200});
+    expectEnds(guide.guide().guide2(), {320, 0}, {230, 300});
+}
+
+TEST_F(CursorGuideGuide, withALockHasTheDirectionsOfThePlaceWhereThePointLands)
+{
+    guide.setConverter(converging());
+    click(lockXCheck);
+    currentX->setStringValue("2");
+    guide.forceDrawGuide({300, 200}, 2); // the point lands at (70, 100) on the picture
+    expectEnds(guide.guide().guide1(), {0, 200}, {400, 200});
+    expectEnds(guide.guide().guide2(), {80, 0}, {170, 300});
+}
+
+TEST_F(CursorGuideGuide, withBothLocksStaysWhereverTheCursorGoes)
+{
+    guide.setConverter(converging());
+    click(lockXCheck);
+    click(lockYCheck);
+    currentX->setStringValue("5");
+    currentY->setStringValue("10");
+    for (const FloatPoint cursor : {FloatPoint{300, 200}, FloatPoint{10, 20}}) {
+        guide.drawGuide(cursor, 2);
+        expectEnds(guide.guide().guide1(), {0, 200}, {400, 200});
+        expectEnds(guide.guide().guide2(), {200, 0}, {200, 300});
+    }
+}
+
+TEST_F(CursorGuideGuide, ofPolarAxesWithALockedAngleHasTheRayOfThatAngle)
+{
+    guide.setConverter(degrees());
+    click(lockXCheck);
+    currentX->setStringValue("90");
+    guide.forceDrawGuide({200, 100}, 1);
+    expectEnds(guide.guide().guide1(), {100, 0}, {100, 300});
+    EXPECT_EQ(guide.guide().guide3(), (FloatRect{{0, 0}, {200, 200}}));
 }
 
 TEST_F(CursorGuideGuide, ofPolarAxesIsARayAndACircleAboutThePole)
@@ -185,6 +299,17 @@ TEST_F(CursorGuideGuide, circleIsDrawnInTheThicknessOfTheAxes)
     EXPECT_EQ(colorAt(canvas, 100, 204), white);
     EXPECT_EQ(colorAt(canvas, 100, 195), white);
     EXPECT_EQ(colorAt(canvas, 150, 101), white); // the ray is thin
+}
+
+TEST_F(CursorGuideGuide, rayAndCircleHaveThicknessesOfTheirOwn)
+{
+    prefs.guideThickness = 1;
+    prefs.axisThickness = 5;
+    guide.setConverter(degrees());
+    guide.forceDrawGuide({200.5, 100.5}, 1); // pixel rows are between whole numbers
+    const QImage canvas = drawing();
+    EXPECT_NEAR(thicknessOver(canvas, 50, 90, 110), 1, 1);
+    EXPECT_NEAR(thicknessOver(canvas, 100, 190, 210), 5, 1);
 }
 
 TEST_F(CursorGuideGuide, leavesThePainterAsItWas)

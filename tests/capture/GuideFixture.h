@@ -3,6 +3,7 @@
 #include "capture/CursorGuide.h"
 
 #include "conversion/ZKConvCoordinateAffine.h"
+#include "conversion/ZKConvCoordinateKeystone.h"
 #include "conversion/ZKConvCoordinatePolar.h"
 #include "platform/Clipboard.h"
 #include "platform/Sheets.h"
@@ -89,8 +90,11 @@ public:
     [[nodiscard]] bool saveWithTitle() const override { return false; }
     [[nodiscard]] PlotStyle plotPrefsForSeries(int /*series*/) const override { return {}; }
     [[nodiscard]] DeviceColor guideColor() const override { return {1, 0, 0, 1}; }
-    [[nodiscard]] float guideThick() const override { return 2; }
-    [[nodiscard]] float axisThick() const override { return 6; }
+    [[nodiscard]] float guideThick() const override { return guideThickness; }
+    [[nodiscard]] float axisThick() const override { return axisThickness; }
+
+    float guideThickness = 2;
+    float axisThickness = 6;
 };
 
 class ShownLockMenu final : public LockMenu
@@ -136,6 +140,20 @@ protected:
     {
         return ZKConvCoordinateAffine::convCoordWithX0Point({0, 0}, {100, 0}, 0, 10, false, {0, 0},
                                                             {0, 100}, 0, 10, false);
+    }
+
+    /// Axes that are both slanted: X rises by 1 in 2, Y leans over by 1 in 2.
+    static GuideConverter slanted()
+    {
+        return ZKConvCoordinateAffine::convCoordWithX0Point({0, 0}, {100, 50}, 0, 10, false, {0, 0},
+                                                            {50, 100}, 0, 10, false);
+    }
+
+    /// A photographed chart: the left and right edges meet at (100, 200), the others are level.
+    static GuideConverter converging()
+    {
+        return ZKConvCoordinateKeystone::convCoordWithPointLB(
+            {0, 0}, {200, 0}, {50, 100}, {150, 100}, 0, 10, false, 0, 10, false);
     }
 
     /// Degrees about (100, 100), radius 10 at (200, 100).
