@@ -190,6 +190,19 @@ TEST_F(CursorGuideModes, equalFreesXAgainBackInTheFirstSeries)
     EXPECT_TRUE(lockXCheck->isEnabled());
 }
 
+TEST_F(CursorGuideModes, equalTitlesTheLockCommandAfterTheSeries)
+{
+    guide.setConverter(tenths());
+    chooseMode(2);
+    EXPECT_EQ(menu.x, texts::localized("LockXValue"));
+    series.series = 1;
+    guide.seriesChanged();
+    EXPECT_EQ(menu.x, texts::localized("UnlockXValue"));
+    series.series = 0;
+    guide.seriesChanged();
+    EXPECT_EQ(menu.x, texts::localized("LockXValue"));
+}
+
 TEST_F(CursorGuideModes, equalMarksForTheLockTheSeriesAndTheMode)
 {
     series.series = 1;

@@ -131,6 +131,16 @@ TEST(MarkerPreview, openShapesLetTheBackgroundThrough)
     EXPECT_EQ(canvas.pixel(25, 15), blue);
 }
 
+TEST(MarkerPreview, drawsOverItsFrame)
+{
+    MarkerPreview preview;
+    preview.setFrameStyle(QFrame::Box | QFrame::Plain);
+    preview.setPreview(blueSquare(), 0);
+    const QImage canvas = shown(preview);
+    EXPECT_NE(canvas.pixel(0, 15), white);
+    EXPECT_EQ(canvas.pixel(30, 15), blue);
+}
+
 TEST(MarkerPreview, hasANameForThoseWhoDoNotSeeIt)
 {
     const MarkerPreview preview;

@@ -3,6 +3,7 @@
 #include "axes/CurrentAxes.h"
 #include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
+#include "capture/MarkerPreview.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,85 @@ void chooseWithTheKeyboard(QComboBox *popup, int index)
         QTest::keyClick(popup, Qt::Key_Up);
 }
 
+/// Lets the pointer rest over a point in view coordinates until the picture was looked at once.
+void hover(TestDocument &test, int x, int y)
+{
+    test.services.desktop->pointer =
+        test.document->graphView().mapToGlobal(test.widgetPosition(x, y));
+    test.document->graphView().mouseCheckRoutine();
+}
+
 } // namespace
+
+TEST(DocumentGuide, hoveringShowsTheValuesThatAClickTakes)
+{
+    TestDocument test;
+    test.digitize();
+    hover(test, 100, 50);
+    EXPECT_TRUE(test.document->cursorGuide().showGuide());
+    const double shownX = test.ui().currentXTextField->doubleValue();
+    const double shownY = test.ui().currentYTextField->doubleValue();
+    test.click(100, 50);
+    const auto &point = test.document->dataSeries().points(0).at(0);
+    EXPECT_NEAR(shownX, point.X(), 1e-3);
+    EXPECT_NEAR(shownY, point.Y(), 1e-3);
+}
+
+TEST(DocumentGuide, staysHiddenOverARestingPointerWhenTheWindowComesBack)
+{
+    TestDocument test;
+    test.digitize();
+    test.document->windowDidBecomeKey();
+    hover(test, 100, 50);
+    test.document->windowDidResignKey();
+    EXPECT_FALSE(test.document->cursorGuide().showGuide());
+    test.document->windowDidBecomeKey();
+    hover(test, 100, 50);
+    EXPECT_FALSE(test.document->cursorGuide().showGuide());
+    hover(test, 101, 50);
+    EXPECT_TRUE(test.document->cursorGuide().showGuide());
+}
+
+TEST(DocumentGuide, comesBackOverARestingPointerWithAPointAtAComputedX)
+{
+    TestDocument test;
+    test.digitize();
+    chooseWithTheKeyboard(test.ui().autoXModePopUp, 1);
+    hover(test, 100, 50);
+    test.document->cursorGuide().clearGuide();
+    hover(test, 100, 50);
+    ASSERT_FALSE(test.document->cursorGuide().showGuide());
+    test.click(100, 50); // computes the X of the next point
+    hover(test, 100, 50);
+    EXPECT_TRUE(test.document->cursorGuide().showGuide());
+}
+
+TEST(DocumentGuide, theKeyDocumentTitlesTheSharedLockCommands)
+{
+    TestDocument test;
+    test.digitize();
+    test.document->lockUnlockX();
+    test.services.lockUnlockX.setText(QStringLiteral("another document's"));
+    test.services.lockUnlockY.setText(QStringLiteral("another document's"));
+    test.document->windowDidBecomeKey();
+    EXPECT_EQ(test.services.lockUnlockX.text(), qtTrId("UnlockXValue"));
+    EXPECT_EQ(test.services.lockUnlockY.text(), qtTrId("LockYValue"));
+}
+
+TEST(DocumentGuide, previewShowsTheStyleAndModeOfTheCurrentSeries)
+{
+    TestDocument test;
+    test.digitize();
+    chooseWithTheKeyboard(test.ui().markerDrawPopup, 2);
+    const MarkerPreview &preview = *test.ui().markerPreview;
+    EXPECT_FALSE(preview.marker());
+    EXPECT_TRUE(preview.line());
+    const auto colour = preview.color();
+    test.command("moveToNextSeries");
+    EXPECT_TRUE(preview.marker());
+    EXPECT_FALSE(preview.line());
+    EXPECT_NE(preview.color(), colour);
+}
 
 TEST(DocumentGuide, equalXTakesTheXOfTheFirstSeriesAtTheSameIndex)
 {
