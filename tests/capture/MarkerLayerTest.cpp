@@ -186,6 +186,21 @@ TEST(MarkerLayer, showsTheSameOnHighResolutionScreens)
     EXPECT_LE(difference(shownThrough(layer, chart, screen), shownAnew(chart, screen)), rounding);
 }
 
+TEST(MarkerLayer, showsTheSameOnScreensBetweenWholeResolutions)
+{
+    Chart chart;
+    chart.lists[0] = PointList({at(20, 20), at(70, 55), at(110, 30)});
+    for (const qreal ratio : {1.25, 1.5, 1.75}) {
+        for (const QRect visible : {QRect(0, 0, side, side), QRect(11, 21, 89, 71)}) {
+            MarkerLayer layer;
+            const Screen screen{.visible = visible, .pixelRatio = ratio};
+            const QImage anew = shownAnew(chart, screen);
+            EXPECT_LE(difference(shownThrough(layer, chart, screen), anew), rounding) << ratio;
+            EXPECT_LE(difference(shownThrough(layer, chart, screen), anew), rounding) << ratio;
+        }
+    }
+}
+
 TEST(MarkerLayer, followsTheWindowToAnotherScreen)
 {
     Chart chart;
