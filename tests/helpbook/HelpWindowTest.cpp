@@ -219,6 +219,22 @@ TEST_F(HelpWindowTest, everyButtonSaysItsKeys)
     }
 }
 
+TEST_F(HelpWindowTest, noKeyOfATextShows)
+{
+    show();
+    find(QStringLiteral("whale"));
+    QStringList texts;
+    for (const QAction *action : window->findChildren<QAction *>())
+        texts << action->text() << action->toolTip();
+    for (const QWidget *widget : window->findChildren<QWidget *>())
+        texts << widget->toolTip() << widget->accessibleName();
+    for (const QLabel *label : window->findChildren<QLabel *>())
+        texts << label->text();
+    EXPECT_TRUE(texts.contains(QStringLiteral("&Find:")));
+    EXPECT_TRUE(texts.filter(QStringLiteral("help.")).isEmpty())
+        << qPrintable(texts.filter(QStringLiteral("help.")).join(' '));
+}
+
 TEST_F(HelpWindowTest, anOpenHelpWindowDoesNotKeepTheProgramRunning)
 {
     EXPECT_FALSE(window->testAttribute(Qt::WA_QuitOnClose));

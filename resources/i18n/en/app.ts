@@ -19,7 +19,7 @@ no display and read documents only.
                     for every series that holds points
   --titles          begin with a line of titles
   --no-titles       write numbers only; without either option the preference
-                    "Save with titles" decides
+                    "Titles when saving" decides
   --info            print the size of the picture, the axes and the amount of data
   --json            print that as one JSON object per line
   -h, --help        print this help
@@ -44,7 +44,7 @@ no display and read documents only.
                     for every series that holds points
   --titles          begin with a line of titles
   --no-titles       write numbers only; without either option the preference
-                    "Save with titles" decides
+                    "Titles when saving" decides
   --info            print the size of the picture, the axes and the amount of data
   --json            print that as one JSON object per line
   -h, --help        print this help
