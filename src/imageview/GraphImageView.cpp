@@ -29,6 +29,7 @@ GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     setObjectName(QStringLiteral("graphView"));
     setAccessibleName(texts::localized("imageview.view.name"));
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_mouseCheckTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_mouseCheckTimer, &QTimer::timeout, this, &GraphImageView::mouseCheckRoutine);

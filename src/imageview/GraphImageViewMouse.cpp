@@ -62,7 +62,10 @@ FloatPoint GraphImageView::convertPointFromWindow(FloatPoint windowPoint) const
 
 FloatPoint GraphImageView::pointerInView() const
 {
-    return viewPoint(mapFromGlobal(QPointF(m_outlets.document->desktop().pointerPosition())));
+    // The desktop tells whole points, which are several pixels of a sharp screen.
+    const QPoint pointer = m_outlets.document->desktop().pointerPosition();
+    const bool isLastMove = m_movedTo.toPoint() == pointer;
+    return viewPoint(mapFromGlobal(isLastMove ? m_movedTo : QPointF(pointer)));
 }
 
 int GraphImageView::mosueDownMode(Qt::KeyboardModifiers modifierFlags) const
@@ -109,6 +112,7 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
 
 void GraphImageView::mouseMoveEvent(QMouseEvent *event)
 {
+    m_movedTo = mapToGlobal(event->position()); // the event itself has it in whole points
     if (!m_leftButtonIsDown)
         return;
     if (m_trackingAnchorDrag) {

@@ -433,6 +433,31 @@ TEST_F(GraphImageViewMouseTest, tellsWhereInThePictureThePointerIs)
     EXPECT_EQ(hovers[1], std::nullopt);
 }
 
+TEST_F(GraphImageViewMouseTest, theGuideIsWhereAClickOnASharpScreenWillBe)
+{
+    showPicture(400, 300, false);
+    around.inForce = someConverter();
+    ASSERT_TRUE(view->hasMouseTracking()); // else there are no moves without a button
+    const QPointF sharp = view->mapToGlobal(QPointF(100.25, 49.75));
+    mouse(QEvent::MouseMove, sharp, Qt::NoModifier, Qt::NoButton);
+    around.pointer = sharp.toPoint();
+    view->mouseCheckRoutine();
+    mouse(QEvent::MouseButtonPress, sharp);
+    EXPECT_EQ(around.guidePositions, (Points{{100.25F, 250.25F}}));
+    EXPECT_EQ(around.appended, (Points{{100.25F, 250.25F}}));
+}
+
+TEST_F(GraphImageViewMouseTest, aPointerThatWentOnSinceTheLastMoveIsWhereTheDesktopSays)
+{
+    showPicture(400, 300, false);
+    around.inForce = someConverter();
+    mouse(QEvent::MouseMove, view->mapToGlobal(QPointF(100.25, 49.75)), Qt::NoModifier,
+          Qt::NoButton);
+    pointAt({102, 50});
+    view->mouseCheckRoutine();
+    EXPECT_EQ(around.guidePositions, (Points{{102, 250}}));
+}
+
 TEST_F(GraphImageViewMouseTest, thePointerIsLookedAtInThePreferredInterval)
 {
     showPicture(400, 300, false);
