@@ -64,7 +64,8 @@ FloatPoint GraphImageView::pointerInView() const
 {
     // The desktop tells whole points, which are several pixels of a sharp screen.
     const QPoint pointer = m_outlets.document->desktop().pointerPosition();
-    const bool isLastMove = m_movedTo.toPoint() == pointer;
+    const QPointF gone = m_movedTo - pointer;
+    const bool isLastMove = std::fabs(gone.x()) < 1 && std::fabs(gone.y()) < 1;
     return viewPoint(mapFromGlobal(isLastMove ? m_movedTo : QPointF(pointer)));
 }
 
