@@ -89,12 +89,11 @@ private:
         const std::optional<QString> list = value();
         if (!list)
             return;
-        if (const auto series = serieslist::fromText(*list)) {
+        m_exportOption = m_option;
+        if (const auto series = serieslist::fromText(*list))
             m_line.series = *series;
-            m_hasSeries = true;
-        } else {
+        else
             fail("app.usage.series", *list);
-        }
     }
 
     void readTitles(bool wanted)
@@ -103,6 +102,7 @@ private:
             return;
         if (m_line.titles && *m_line.titles != wanted)
             fail("app.usage.bothTitles");
+        m_exportOption = m_option;
         m_line.titles = wanted;
     }
 
@@ -151,11 +151,8 @@ private:
         if (m_line.mistake || m_line.action == Action::Help || m_line.action == Action::Version)
             return;
         const bool exports = m_line.action == Action::Export;
-        if (!exports && (m_hasSeries || m_line.titles))
-            fail("app.usage.exportOnly", m_hasSeries ? QStringLiteral("--series")
-                                         : m_line.titles.value_or(true)
-                                             ? QStringLiteral("--titles")
-                                             : QStringLiteral("--no-titles"));
+        if (!exports && !m_exportOption.isEmpty())
+            fail("app.usage.exportOnly", m_exportOption);
         else if (m_line.asJson && m_line.action != Action::Info)
             fail("app.usage.infoOnly", QStringLiteral("--json"));
         else if (m_line.action == Action::OpenWindows)
@@ -187,8 +184,8 @@ private:
 
     QStringList m_rest;
     CommandLine m_line;
-    bool m_hasSeries = false;
     QString m_option;
+    QString m_exportOption; ///< one that was given and belongs to exports
     std::optional<QString> m_attached;
 };
 
