@@ -284,5 +284,5 @@ private:
     bool m_spaceIsHeld = false;
     bool m_windowWasActive = false;
     std::optional<FloatPoint> m_hover;
-    QPointF m_movedTo; ///< where on the screen the last move on the view was, to the pixel
+    QPointF m_movedTo; ///< where in the viewport the last move was, to the pixel
 };

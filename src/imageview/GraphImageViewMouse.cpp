@@ -63,10 +63,12 @@ FloatPoint GraphImageView::convertPointFromWindow(FloatPoint windowPoint) const
 FloatPoint GraphImageView::pointerInView() const
 {
     // The desktop tells whole points, which are several pixels of a sharp screen.
-    const QPoint pointer = m_outlets.document->desktop().pointerPosition();
-    const QPointF gone = m_movedTo - pointer;
+    const QWidget *viewport = m_scrollArea.viewport();
+    const QPointF whole =
+        viewport->mapFromGlobal(QPointF(m_outlets.document->desktop().pointerPosition()));
+    const QPointF gone = m_movedTo - whole;
     const bool isLastMove = std::fabs(gone.x()) < 1 && std::fabs(gone.y()) < 1;
-    return viewPoint(mapFromGlobal(isLastMove ? m_movedTo : QPointF(pointer)));
+    return viewPoint(mapFrom(viewport, isLastMove ? m_movedTo : whole));
 }
 
 int GraphImageView::mosueDownMode(Qt::KeyboardModifiers modifierFlags) const
@@ -113,7 +115,7 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
 
 void GraphImageView::mouseMoveEvent(QMouseEvent *event)
 {
-    m_movedTo = mapToGlobal(event->position()); // the event itself has it in whole points
+    m_movedTo = mapTo(m_scrollArea.viewport(), event->position());
     if (!m_leftButtonIsDown)
         return;
     if (m_trackingAnchorDrag) {
