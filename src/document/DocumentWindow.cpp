@@ -1,5 +1,6 @@
 #include "document/DocumentWindow.h"
 
+#include "document/ChosenButtonStyle.h"
 #include "document/EmptyPictureHint.h"
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
@@ -38,9 +39,20 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);
     connect(m_emptyHint, &EmptyPictureHint::openRequested, &m_document, &MyDocument::openImageFile);
     applyIcons();
+    tintChosenButtons();
     keepPlacesOfBoxes();
     keepSizeWithoutPicture();
     setMinimumSize(minimumSizeHint().expandedTo({0, smallestHeight})); // the drawer adds its own
+}
+
+void DocumentWindow::tintChosenButtons()
+{
+    auto *style = new ChosenButtonStyle;
+    style->setParent(this);
+    for (QToolButton *button : findChildren<QToolButton *>()) {
+        if (button->isCheckable())
+            button->setStyle(style);
+    }
 }
 
 // The boxes of the X axis and of the angle take turns in one place. In a narrow window the boxes

@@ -39,6 +39,7 @@ protected:
 
 private:
     void applyIcons();
+    void tintChosenButtons();
     void keepPlacesOfBoxes();
     void keepSizeWithoutPicture();
 

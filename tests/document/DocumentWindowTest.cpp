@@ -262,3 +262,16 @@ TEST(DocumentWindow, theStatusLineShowsThePositions)
     EXPECT_EQ(picture->text(), qtTrId("document.status.picture").arg("50", "300"));
     EXPECT_EQ(graph->text(), qtTrId("document.status.graph").arg("50", "300"));
 }
+
+TEST(DocumentWindow, theChosenPageStandsOutInADarkPalette)
+{
+    const TestDocument test;
+    test.document->window().setPalette(QPalette(QColor(56, 60, 65), QColor(40, 43, 47)));
+    const auto backgroundOf = [](QToolButton *button) {
+        const QPixmap shown = button->grab();
+        return shown.toImage().pixelColor(shown.width() / 2, shown.height() - 4);
+    };
+    const QColor chosen = backgroundOf(test.ui().axisTabButton);
+    const QColor other = backgroundOf(test.ui().digitizingTabButton);
+    EXPECT_GT(chosen.blue() - other.blue(), 30);
+}
