@@ -4,4 +4,4 @@ NotificationCentre::NotificationCentre(QObject *parent)
     : QObject(parent)
 {}
 
-void NotificationCentre::post(const QString &name) { Q_EMIT posted(name); }
+void NotificationCentre::post(const QString &name, QObject *object) { Q_EMIT posted(name, object); }

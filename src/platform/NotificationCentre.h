@@ -11,9 +11,10 @@ class NotificationCentre : public QObject
 public:
     explicit NotificationCentre(QObject *parent = nullptr);
 
-    /// Tells every observer, in the order in which they connected, before it returns.
-    void post(const QString &name);
+    /// Tells every observer, in the order in which they connected, before it returns; `object` is
+    /// whoever it is about.
+    void post(const QString &name, QObject *object = nullptr);
 
 Q_SIGNALS:
-    void posted(const QString &name);
+    void posted(const QString &name, QObject *object);
 };

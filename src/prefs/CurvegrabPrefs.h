@@ -42,6 +42,9 @@ public:
     /// A fresh store with the factory settings only; it is not the application's.
     [[nodiscard]] static std::unique_ptr<CurvegrabPrefs> defaultPrefs(UserDefaults &userDefaults);
 
+    /// Where the settings are kept.
+    [[nodiscard]] UserDefaults &userDefaults() const { return m_userDefaults; }
+
     /// Shows the info panel if it was visible when the program was last used.
     void applicationDidFinishLaunching();
 
