@@ -168,5 +168,20 @@
         <extracomment>Caption in the info panel: number of rows.</extracomment>
         <translation>Longest series:</translation>
     </message>
+    <message id="infopanel.title">
+        <source>Info</source>
+        <extracomment>Title of the info panel.</extracomment>
+        <translation>Info</translation>
+    </message>
+    <message id="ShowInfo">
+        <source>Show Info Panel</source>
+        <extracomment>Menu item, while the info panel is hidden.</extracomment>
+        <translation>Show Info Panel</translation>
+    </message>
+    <message id="HideInfo">
+        <source>Hide Info Panel</source>
+        <extracomment>Menu item, while the info panel is shown.</extracomment>
+        <translation>Hide Info Panel</translation>
+    </message>
 </context>
 </TS>
