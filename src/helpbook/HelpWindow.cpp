@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -15,6 +16,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -75,6 +77,9 @@ HelpWindow::~HelpWindow() = default;
 void HelpWindow::showAnchor(const QString &anchor)
 {
     m_page->setSource(m_book.urlOfAnchor(anchor).value_or(m_book.firstUrl()));
+    // A panel that keeps all other windows waiting may be what help is wanted for.
+    winId();
+    windowHandle()->setTransientParent(QGuiApplication::modalWindow());
     show();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();

@@ -5,6 +5,7 @@
 #include "platform/UserDefaults.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,6 +13,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QToolButton>
+#include <QWindow>
 
 namespace {
 
@@ -238,6 +240,18 @@ TEST_F(HelpWindowTest, noKeyOfATextShows)
 TEST_F(HelpWindowTest, anOpenHelpWindowDoesNotKeepTheProgramRunning)
 {
     EXPECT_FALSE(window->testAttribute(Qt::WA_QuitOnClose));
+}
+
+TEST_F(HelpWindowTest, canBeUsedBesideAPanelThatKeepsTheOthersWaiting)
+{
+    QDialog panel;
+    panel.setWindowModality(Qt::ApplicationModal);
+    panel.show();
+    window->showAnchor({});
+    EXPECT_EQ(window->windowHandle()->transientParent(), panel.windowHandle());
+    panel.close();
+    window->showAnchor({});
+    EXPECT_EQ(window->windowHandle()->transientParent(), nullptr);
 }
 
 TEST(HelpBookViewer, opensTheProgramsBookAtAnAnchor)
