@@ -1,6 +1,9 @@
+#include "app/CommandKeys.h"
 #include "app/CommandLine.h"
 #include "app/ConsoleCommands.h"
+#include "document/ApplicationPanels.h"
 #include "document/DocumentController.h"
+#include "helpbook/HelpBookViewer.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "prefs/CurvegrabPrefs.h"
@@ -84,8 +87,13 @@ int main(int argc, char **argv)
 
     UserDefaults defaults(UserDefaults::standardPath());
     CurvegrabPrefs prefs(defaults);
+    HelpBookViewer help(defaults, [](const QString &command) {
+        return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
+    });
     DocumentController documents(prefs);
+    documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
     documents.openFiles(commandLine.files);
+    prefs.applicationDidFinishLaunching();
     return QApplication::exec();
 }

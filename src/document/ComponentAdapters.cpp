@@ -4,13 +4,29 @@
 #include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
 #include "capture/MarkerDrawing.h"
+#include "document/DocumentFacts.h"
 #include "document/MyDocument.h"
 #include "imageview/GraphImageView.h"
+#include "infopanel/InfoPanelController.h"
 #include "prefs/CurvegrabPrefs.h"
 
 #include <QAction>
 
 #include <utility>
+
+namespace {
+
+/// What the info panel shows has changed, and perhaps what the document's window shows as well.
+void tellInfoPanel(MyDocument &document,
+                   void (InfoPanelController::*update)(const InfoPanelDocument *))
+{
+    document.showsChanged();
+    const DocumentFacts facts(document);
+    if (gInfoPanelController != nullptr)
+        (gInfoPanelController->*update)(&facts);
+}
+
+} // namespace
 
 // --- Axis settings ---
 
@@ -40,7 +56,10 @@ float AxesAdapter::axisThick() const { return m_document.prefs().axisThick(); }
 
 float AxesAdapter::axisAnchorSize() const { return m_document.prefs().axisAnchorSize(); }
 
-void AxesAdapter::updateAxisInfo() { m_document.showsChanged(); }
+void AxesAdapter::updateAxisInfo()
+{
+    tellInfoPanel(m_document, &InfoPanelController::updateAxisInfoWith);
+}
 
 // --- Data capture ---
 
@@ -79,7 +98,10 @@ float CaptureAdapter::guideThick() const { return m_document.prefs().guideThick(
 
 float CaptureAdapter::axisThick() const { return m_document.prefs().axisThick(); }
 
-void CaptureAdapter::updateDataInfo() { m_document.showsChanged(); }
+void CaptureAdapter::updateDataInfo()
+{
+    tellInfoPanel(m_document, &InfoPanelController::updateDataInfoWith);
+}
 
 void CaptureAdapter::setLockXTitle(const QString &title)
 {
@@ -216,7 +238,12 @@ void ImageViewAdapter::drawDataMarkersWithScale(QPainter &painter, float scale)
     m_markerLayer.draw(painter, scale, capture, capture);
 }
 
-void ImageViewAdapter::updateImageInfo() { m_document.showsChanged(); }
+// The first picture brings the data to light as well: without one the panel tells nothing of them.
+void ImageViewAdapter::updateImageInfo()
+{
+    tellInfoPanel(m_document, &InfoPanelController::updateImageInfoWith);
+    tellInfoPanel(m_document, &InfoPanelController::updateDataInfoWith);
+}
 
 double ImageViewAdapter::guideInterval() const
 {

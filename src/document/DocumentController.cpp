@@ -1,5 +1,6 @@
 #include "document/DocumentController.h"
 
+#include "document/ApplicationPanels.h"
 #include "document/MyDocument.h"
 #include "platform/SystemClipboard.h"
 #include "platform/SystemDesktop.h"
@@ -8,6 +9,7 @@
 #include "platform/WindowFilePanels.h"
 #include "platform/WindowSheets.h"
 #include "prefs/CurvegrabPrefs.h"
+#include "prefs/PrefsController.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,6 +22,7 @@
 DocumentController::DocumentController(CurvegrabPrefs &prefs, QObject *parent)
     : QObject(parent)
     , m_prefs(prefs)
+    , m_panels(std::make_unique<ApplicationPanels>(prefs))
     , m_clipboard(std::make_unique<SystemClipboard>())
     , m_pasteboard(std::make_unique<SystemPasteboard>())
 {
@@ -32,6 +35,7 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, QObject *parent)
     m_sharedItems.lockUnlockY =
         addSharedItem("lockUnlockY", "LockYValue", menurules::LockY,
                       QKeySequence(QStringLiteral("Ctrl+Shift+Y")), &MyDocument::lockUnlockY);
+    m_sharedItems.showHideInfo = &m_panels->showHideInfo();
     m_prefs.setShowHideTableMenu(m_sharedItems.showHideTable);
     m_prefs.setLockUnlockXMenu(m_sharedItems.lockUnlockX);
     m_prefs.setLockUnlockYMenu(m_sharedItems.lockUnlockY);
@@ -69,6 +73,15 @@ void DocumentController::openFiles(const QStringList &paths)
         document.openPicture(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
     }
 }
+
+NotificationCentre &DocumentController::notificationCentre()
+{
+    return m_panels->notificationCentre();
+}
+
+HelpViewer &DocumentController::helpViewer() { return *m_panels; }
+
+void DocumentController::editPreferences() { m_panels->prefsController().editPreferences(); }
 
 Clipboard &DocumentController::clipboard() { return *m_clipboard; }
 

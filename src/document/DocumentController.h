@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class ApplicationPanels;
 class SystemClipboard;
 class SystemPasteboard;
 
@@ -29,13 +30,19 @@ public:
         return m_documents;
     }
 
+    /// The panels that all documents share.
+    [[nodiscard]] ApplicationPanels &panels() const { return *m_panels; }
+
     [[nodiscard]] CurvegrabPrefs &prefs() override { return m_prefs; }
     [[nodiscard]] Clipboard &clipboard() override;
     [[nodiscard]] Pasteboard &pasteboard() override;
+    [[nodiscard]] NotificationCentre &notificationCentre() override;
+    [[nodiscard]] HelpViewer &helpViewer() override;
     [[nodiscard]] DocumentMenus::SharedItems sharedItems() override { return m_sharedItems; }
     [[nodiscard]] WindowDialogs makeDialogs(QWidget &window) override;
     [[nodiscard]] std::unique_ptr<Desktop> makeDesktop(QWidget &window) override;
     void newDocument() override;
+    void editPreferences() override;
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
     void documentClosed(MyDocument &document) override;
@@ -46,6 +53,7 @@ private:
                            void (MyDocument::*invoke)());
 
     CurvegrabPrefs &m_prefs;
+    std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;
     std::unique_ptr<SystemPasteboard> m_pasteboard;

@@ -121,6 +121,13 @@ void DocumentMenus::addEditMenu()
                noRule,
                {QKeySequence::SelectAll},
                &MyDocument::selectAll});
+    menu->addSeparator();
+    add(menu, {"editPreferences",
+               "document.command.preferences",
+               noRule,
+               {keys("Ctrl+,")},
+               &MyDocument::editPreferences})
+        ->setMenuRole(QAction::PreferencesRole);
 }
 
 void DocumentMenus::addViewMenu()
@@ -166,6 +173,7 @@ void DocumentMenus::addViewMenu()
                &MyDocument::zoomToFitHeight});
     menu->addSeparator();
     menu->addAction(m_shared.showHideTable);
+    menu->addAction(m_shared.showHideInfo);
 }
 
 void DocumentMenus::addPictureMenu()
@@ -298,6 +306,18 @@ void DocumentMenus::addWindowMenu()
 void DocumentMenus::addHelpMenu()
 {
     QMenu *menu = addMenu("document.menu.help");
+    add(menu, {"showHelp",
+               "document.command.help",
+               noRule,
+               {keys("F1"), keys("Ctrl+?")},
+               &MyDocument::showHelp});
+    add(menu, {"showAxisHelp", "document.command.axisHelp", noRule, {}, &MyDocument::showAxisHelp});
+    add(menu, {"showDigitizeHelp",
+               "document.command.digitizeHelp",
+               noRule,
+               {},
+               &MyDocument::showDigitizeHelp});
+    menu->addSeparator();
     add(menu, {"about", "document.command.about", noRule, {}, &MyDocument::about});
 }
 

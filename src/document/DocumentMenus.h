@@ -19,12 +19,13 @@ class DocumentMenus : public QObject
 
 public:
     /// Builds the menus into `window`; `shared` are the application-wide items (table, lock X, lock
-    /// Y).
+    /// Y, info panel).
     struct SharedItems
     {
         QAction *showHideTable = nullptr;
         QAction *lockUnlockX = nullptr;
         QAction *lockUnlockY = nullptr;
+        QAction *showHideInfo = nullptr;
     };
     DocumentMenus(MyDocument &document, QMainWindow &window, const SharedItems &shared);
 

@@ -10,7 +10,9 @@
 
 class Clipboard;
 class CurvegrabPrefs;
+class HelpViewer;
 class MyDocument;
+class NotificationCentre;
 class Pasteboard;
 class QWidget;
 
@@ -30,6 +32,8 @@ public:
     [[nodiscard]] virtual CurvegrabPrefs &prefs() = 0;
     [[nodiscard]] virtual Clipboard &clipboard() = 0;
     [[nodiscard]] virtual Pasteboard &pasteboard() = 0;
+    [[nodiscard]] virtual NotificationCentre &notificationCentre() = 0;
+    [[nodiscard]] virtual HelpViewer &helpViewer() = 0;
     [[nodiscard]] virtual DocumentMenus::SharedItems sharedItems() = 0;
     /// The sheets and file panels of one window, which outlives them; they share one queue.
     [[nodiscard]] virtual WindowDialogs makeDialogs(QWidget &window) = 0;
@@ -38,6 +42,7 @@ public:
 
     /// Commands that concern the whole application.
     virtual void newDocument() = 0;
+    virtual void editPreferences() = 0;
     virtual void terminate() = 0;
     virtual void documentBecameKey(MyDocument &document) = 0;
     /// The document's window was closed; the document goes.

@@ -12,6 +12,8 @@
 #include "imageview/GraphImageView.h"
 #include "imageview/MouseDownMode.h"
 #include "imageview/PictureSuffixes.h"
+#include "infopanel/InfoPanelController.h"
+#include "platform/NotificationCentre.h"
 #include "platform/Pasteboard.h"
 #include "platform/Texts.h"
 #include "prefs/CurvegrabPrefs.h"
@@ -112,6 +114,8 @@ void MyDocument::wire()
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
     connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
     connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);
+    connect(&m_services.notificationCentre(), &NotificationCentre::posted, this,
+            &MyDocument::notificationPosted);
     connect(&m_services.pasteboard(), &Pasteboard::changed, this, &MyDocument::pasteboardChanged);
 
     m_currentAxes->awakeFromNib();
@@ -328,6 +332,7 @@ void MyDocument::windowDidBecomeKey()
     m_isKey = true;
     m_services.documentBecameKey(*this);
     m_graphView->startMouseChecking();
+    showInInfoPanel();
     drawerStateChanged();
     m_cursorGuide->lockStateChanged();
     showsChanged();
@@ -358,6 +363,8 @@ bool MyDocument::windowShouldClose()
 void MyDocument::windowWillClose()
 {
     m_graphView->windowWillClose();
+    if (gInfoPanelController != nullptr)
+        gInfoPanelController->updateAllInfoWith(nullptr);
     m_services.documentClosed(*this);
 }
 

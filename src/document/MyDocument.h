@@ -98,6 +98,9 @@ public:
     /// 0 the drawer is open, 1 it is closed.
     [[nodiscard]] int drawerOpenButtonState() const { return m_drawerOpenButtonState; }
 
+    /// The user has changed the preferences.
+    void prefsChanged();
+
     void windowDidBecomeKey();
     void windowDidResignKey();
     /// Whether the window may close now; if not, the user is asked.
@@ -150,6 +153,10 @@ public Q_SLOTS:
     /// The Window menu's zoom: to the standard frame and back to the user's.
     void zoomWindow();
     void about();
+    void editPreferences();
+    void showHelp();
+    void showAxisHelp();
+    void showDigitizeHelp();
     void showHideDataTable();
 
 protected:
@@ -167,6 +174,8 @@ private:
     void showTitle();
     [[nodiscard]] bool acceptsPasteboard() const;
     void pasteboardChanged();
+    void notificationPosted(const QString &name);
+    void showInInfoPanel() const;
 
     DocumentServices &m_services;
     int m_number;

@@ -5,6 +5,8 @@
 #include "document/MyDocument.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureScrollArea.h"
+#include "platform/HelpViewer.h"
+#include "platform/NotificationCentre.h"
 #include "platform/UserDefaults.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "support/FakeClipboard.h"
@@ -21,6 +23,18 @@
 
 #include <memory>
 #include <utility>
+
+/// Notes the places of the help that were opened.
+class RecordingHelp final : public HelpViewer
+{
+public:
+    void openHelpAnchor(const QString &anchor, const QString &inBook) override
+    {
+        opened << inBook + u'#' + anchor;
+    }
+
+    QStringList opened;
+};
 
 /// The services of an application that a test plays.
 class TestServices final : public DocumentServices
@@ -39,9 +53,11 @@ public:
     CurvegrabPrefs &prefs() override { return m_prefs; }
     Clipboard &clipboard() override { return fakeClipboard; }
     Pasteboard &pasteboard() override { return fakePasteboard; }
+    NotificationCentre &notificationCentre() override { return notifications; }
+    HelpViewer &helpViewer() override { return help; }
     DocumentMenus::SharedItems sharedItems() override
     {
-        return {&showHideTable, &lockUnlockX, &lockUnlockY};
+        return {&showHideTable, &lockUnlockX, &lockUnlockY, &showHideInfo};
     }
     WindowDialogs makeDialogs(QWidget &) override
     {
@@ -58,6 +74,7 @@ public:
         return made;
     }
     void newDocument() override { ++newDocuments; }
+    void editPreferences() override { ++preferencesEdits; }
     void terminate() override { ++terminations; }
     void documentBecameKey(MyDocument &document) override { keyDocument = &document; }
     void documentClosed(MyDocument &) override { ++closedDocuments; }
@@ -65,6 +82,9 @@ public:
     QAction showHideTable;
     QAction lockUnlockX;
     QAction lockUnlockY;
+    QAction showHideInfo;
+    NotificationCentre notifications;
+    RecordingHelp help;
     FakeClipboard fakeClipboard;
     FakePasteboard fakePasteboard;
     RecordingSheets *sheets = nullptr;
@@ -73,6 +93,7 @@ public:
     MyDocument *keyDocument = nullptr;
     int newDocuments = 0;
     int terminations = 0;
+    int preferencesEdits = 0;
     int closedDocuments = 0;
 
 private:

@@ -1,6 +1,7 @@
 #include "e2e/ProgramUnderTest.h"
 
 #include <QColor>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
@@ -47,6 +48,12 @@ ProgramUnderTest::ProgramUnderTest(const QString &picturePath)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath("config"));
+    // The info panel would float above the picture.
+    const QDir config(m_folder.filePath(QStringLiteral("config/curvegrab")));
+    QFile preferences(config.filePath(QStringLiteral("preferences.json")));
+    if (config.mkpath(QStringLiteral(".")) && preferences.open(QIODevice::WriteOnly))
+        preferences.write("{\"Info Panel Visible\": false}");
+    preferences.close();
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.start(QStringLiteral(CURVEGRAB_PROGRAM), {picturePath});
