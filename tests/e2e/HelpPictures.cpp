@@ -57,13 +57,15 @@ private:
     QString m_path;
 };
 
-/// Waits until the window has painted what it was told last: until it looks the same twice.
-void settle()
+/// Rests the pointer at a point, and waits until the window shows that and has come to rest too.
+void rest(ProgramUnderTest &program, QPointF point)
 {
-    QImage before;
-    static_cast<void>(QTest::qWaitFor([&before] {
+    const QImage away = ProgramUnderTest::windowImage();
+    program.hover(point);
+    QImage before = away;
+    static_cast<void>(QTest::qWaitFor([&away, &before] {
         const QImage now = ProgramUnderTest::windowImage();
-        const bool isSame = now == before;
+        const bool isSame = now == before && now != away;
         before = now;
         return isSame;
     }));
@@ -84,8 +86,7 @@ bool parallelAxes()
     program.enter("alt+x", "10");
     program.enter("alt+n", "-4");
     program.enter("alt+m", "6");
-    program.hover({600, 300});
-    settle();
+    rest(program, {600, 300});
     if (!keep(ProgramUnderTest::windowImage(), "set-axes.png", windowWidth))
         return false;
     program.key("ctrl+2");
@@ -94,8 +95,7 @@ bool parallelAxes()
         const double y = 5 * std::exp(-x / 4) * std::cos(2 * x);
         program.click({100 + 850 * x / 10, 84 + 574 * (y + 4) / 10});
     }
-    program.hover({700, 420});
-    settle();
+    rest(program, {700, 420});
     if (!keep(ProgramUnderTest::windowImage(), "digitize.png", windowWidth))
         return false;
     program.key("ctrl+s");
@@ -118,8 +118,7 @@ bool quadrangleAxes()
     program.drag({800, 140}, {880, 150});
     program.drag({800, 560}, {800, 610});
     program.drag({200, 560}, {190, 560});
-    program.hover({20, 20});
-    settle();
+    rest(program, {20, 20});
     return keep(program.pictureImage(), "axes-quadrangle.png", detailWidth);
 }
 
@@ -131,8 +130,7 @@ bool polarAxes()
         return fail("no picture");
     program.key("alt+a");
     program.key("o");
-    program.hover({10, 10});
-    settle();
+    rest(program, {10, 10});
     return keep(program.pictureImage(), "axes-polar.png", detailWidth);
 }
 
