@@ -18,7 +18,13 @@ constexpr std::array names{"prefs.shape.0", "prefs.shape.1", "prefs.shape.2", "p
 constexpr int iconSide = 16;
 constexpr int markerSide = 9;
 constexpr double lineWidth = 1.5;
-constexpr float unchosenOpacity = 0.45F;
+
+/// A shape that is not chosen steps back; it stays opaque, as its line overlaps its filling.
+QColor between(const QColor &one, const QColor &other)
+{
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+            (one.blue() + other.blue()) / 2};
+}
 
 QPixmap shapePixmap(const PrefsMarkers &markers, int shape, const QColor &color, int pixelRatio)
 {
@@ -89,8 +95,7 @@ void MarkerShapeControl::drawShapes()
     for (QAbstractButton *button : m_segments->buttons()) {
         const int shape = m_segments->id(button);
         const QColor chosen = palette().color(QPalette::ButtonText);
-        QColor other = chosen;
-        other.setAlphaF(unchosenOpacity);
+        const QColor other = between(chosen, palette().color(QPalette::Button));
         QIcon icon;
         for (const int pixelRatio : {1, 2, 3}) {
             icon.addPixmap(shapePixmap(*m_markers, shape, chosen, pixelRatio), QIcon::Normal,

@@ -7,7 +7,6 @@
 #include "ui_PrefsWindow.h"
 
 #include <QDialog>
-#include <QLabel>
 
 #include <limits>
 #include <string>
@@ -57,10 +56,6 @@ PrefsController::PrefsController(CurvegrabPrefs &preferences, const PrefsSurroun
 {
     m_ui->setupUi(m_prefsWindow.get());
     m_prefsWindow->setWindowModality(Qt::ApplicationModal);
-    for (QLabel *limits :
-         {m_ui->axisThickTextUnit, m_ui->anchorSizeTextUnit, m_ui->guideThickTextUnit,
-          m_ui->guideRefreshTextUnit, m_ui->pdfReadingScaleTextUnit, m_ui->markerSizeUnit})
-        limits->setForegroundRole(QPalette::PlaceholderText);
     connect(m_prefsWindow.get(), &QDialog::finished, this, &PrefsController::modalRunEnded);
     connect(m_ui->okButton, &QPushButton::clicked, this, &PrefsController::okButtonPressed);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &PrefsController::cancelButtonPressed);
