@@ -48,5 +48,15 @@
         <extracomment>The button that overwrites a file.</extracomment>
         <translation>Replace</translation>
     </message>
+    <message id="platform.password.field">
+        <source>&amp;Password:</source>
+        <extracomment>Label of the field into which the password of a file is typed.</extracomment>
+        <translation>&amp;Password:</translation>
+    </message>
+    <message id="platform.password.open">
+        <source>&amp;Open</source>
+        <extracomment>The button that opens the locked file.</extracomment>
+        <translation>&amp;Open</translation>
+    </message>
 </context>
 </TS>
