@@ -15,6 +15,9 @@ constexpr std::uint64_t usualMemory = std::uint64_t{2} << 30U;
 constexpr std::uint64_t mostPixels = std::uint64_t{1} << 30U;
 constexpr int longestSide = 1 << 20;
 
+/// The renderer counts the bytes of a page in 31 bits.
+constexpr std::uint64_t mostPixelsOfPage = (std::uint64_t{1} << 29U) - 1;
+
 /// The number of pixels of a picture of this size; zero where no picture can have it.
 std::uint64_t pixelsOf(QSize size)
 {
@@ -66,4 +69,11 @@ bool picturememory::fits(const QImage &pixels, std::uint64_t bytes)
 {
     const std::uint64_t count = pixelsOf(pixels.size());
     return count > 0 && count * 4 + count / 3 <= bytes;
+}
+
+bool picturememory::fitsPage(QSize size, std::uint64_t bytes)
+{
+    const std::uint64_t pixels = pixelsOf(size);
+    // The page as painted, its place on white or the renderer's layers, and the reduced copies.
+    return pixels > 0 && pixels <= mostPixelsOfPage && pixels * 8 + pixels / 3 <= bytes;
 }

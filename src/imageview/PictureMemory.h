@@ -4,6 +4,7 @@
 
 class QImage;
 class QImageReader;
+class QSize;
 
 /// Whether there is room for a picture, asked before it is decoded.
 namespace picturememory {
@@ -17,5 +18,8 @@ namespace picturememory {
 
 /// The same for pixels that are there already, and need a copy for the screen.
 [[nodiscard]] bool fits(const QImage &pixels, std::uint64_t bytes);
+
+/// Whether `bytes` are enough for painting a page of `size` pixels.
+[[nodiscard]] bool fitsPage(QSize size, std::uint64_t bytes);
 
 } // namespace picturememory

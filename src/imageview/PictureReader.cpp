@@ -30,20 +30,6 @@ bool hasWeakSignature(const QByteArray &format)
     return std::find(weak.begin(), weak.end(), format) != weak.end();
 }
 
-std::optional<PictureProblem> problemOfPath(const PictureSource &source)
-{
-    if (!source.isFile())
-        return {};
-    const QFileInfo file(source.path());
-    if (!file.exists())
-        return PictureProblem::Missing;
-    if (file.isDir())
-        return PictureProblem::Folder;
-    if (!file.isFile() || !file.isReadable())
-        return PictureProblem::Unreadable;
-    return {};
-}
-
 std::optional<PictureProblem> problemOfFormat(QImageReader &reader, const PictureSource &source)
 {
     if (!reader.canRead())
@@ -93,14 +79,15 @@ bool isPageDescription(PictureFile &file) { return file.peek(signatureRange).con
 std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader,
                                       const PictureSource &source, std::uint64_t memoryLimit)
 {
-    if (const auto problem = problemOfPath(source))
-        return problem;
+    const auto known = source.isFile() ? pictureproblem::ofPath(source.path()) : std::nullopt;
+    if (known)
+        return known;
     if (!file.open(QIODevice::ReadOnly))
         return PictureProblem::Unreadable;
     if (file.size() == 0)
         return PictureProblem::Empty;
     if (isPageDescription(file))
-        return PictureProblem::NotAPicture;
+        return PictureProblem::PdfUnderOtherName;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     reader.setDevice(&file);
     reader.setDecideFormatFromContent(true);
@@ -145,6 +132,18 @@ const char *keyOf(PictureProblem problem)
         return "imageview.error.damaged";
     case PictureProblem::TooLarge:
         return "imageview.error.too-large";
+    case PictureProblem::NotAPdf:
+        return "imageview.error.not-a-pdf";
+    case PictureProblem::PdfUnderOtherName:
+        return "imageview.error.pdf-under-other-name";
+    case PictureProblem::NoPages:
+        return "imageview.error.no-pages";
+    case PictureProblem::PageTooLarge:
+        return "imageview.error.page-too-large";
+    case PictureProblem::NeedsPassword:
+        return "imageview.error.needs-password";
+    case PictureProblem::UnknownProtection:
+        return "imageview.error.unknown-protection";
     case PictureProblem::Cancelled:
         break;
     }
@@ -214,6 +213,20 @@ PictureReading PictureReader::read(const QImage &pixels) const
     if (reading.picture)
         reading.problem.reset();
     return reading;
+}
+
+std::optional<PictureProblem> pictureproblem::ofPath(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return PictureProblem::Missing;
+    if (file.isDir())
+        return PictureProblem::Folder;
+    if (!file.isFile() || !file.isReadable())
+        return PictureProblem::Unreadable;
+    if (file.size() == 0)
+        return PictureProblem::Empty;
+    return {};
 }
 
 QString pictureproblem::explanation(const PictureReading &reading, const PictureSource &source)

@@ -20,6 +20,12 @@ enum class PictureProblem {
     NotAPicture,
     Damaged,
     TooLarge,
+    NotAPdf,
+    PdfUnderOtherName, ///< a PDF file is opened as one only if its name ends in "pdf"
+    NoPages,
+    PageTooLarge,
+    NeedsPassword, ///< the PDF file is locked, and the password given, if any, is not the right one
+    UnknownProtection,
     Cancelled,
 };
 
@@ -54,6 +60,9 @@ private:
 };
 
 namespace pictureproblem {
+
+/// The problem that is known without opening the file.
+[[nodiscard]] std::optional<PictureProblem> ofPath(const QString &path);
 
 /// The reason in the user's words, naming the file.
 [[nodiscard]] QString explanation(const PictureReading &reading, const PictureSource &source);

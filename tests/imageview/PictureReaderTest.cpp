@@ -200,9 +200,9 @@ TEST_F(PictureReaderTest, pageDescriptionsAreNeverReadAsBitmaps)
 {
     const QByteArray pdf = "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
                            "trailer<</Root 1 0 R>>\n%%EOF\n";
-    EXPECT_EQ(problemOf("page.pdf", pdf), PictureProblem::NotAPicture);
-    EXPECT_EQ(problemOf("PAGE.PDF", pdf), PictureProblem::NotAPicture);
-    EXPECT_EQ(problemOf("page.png", "junk " + pdf), PictureProblem::NotAPicture);
+    EXPECT_EQ(problemOf("page.pdf", pdf), PictureProblem::PdfUnderOtherName);
+    EXPECT_EQ(problemOf("PAGE.PDF", pdf), PictureProblem::PdfUnderOtherName);
+    EXPECT_EQ(problemOf("page.png", "junk " + pdf), PictureProblem::PdfUnderOtherName);
 }
 
 TEST_F(PictureReaderTest, incompleteFilesAreDamaged)

@@ -49,9 +49,9 @@
         <translation>“%1” is empty. Get the file once more, then try again.</translation>
     </message>
     <message id="imageview.error.not-a-picture">
-        <source>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP or SVG file.</source>
+        <source>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP, SVG or PDF file.</source>
         <extracomment>%1 is the name of the file.</extracomment>
-        <translation>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP or SVG file.</translation>
+        <translation>“%1” is not a picture that can be opened. Choose a PNG, JPEG, TIFF, BMP, GIF, WebP, SVG or PDF file.</translation>
     </message>
     <message id="imageview.error.damaged">
         <source>“%1” is damaged or incomplete. Get the file once more, or save it anew in the program that made it.</source>
@@ -117,6 +117,36 @@
         <source>Zoom the picture</source>
         <extracomment>Tooltip of the zoom slider.</extracomment>
         <translation>Zoom the picture</translation>
+    </message>
+    <message id="imageview.error.not-a-pdf">
+        <source>“%1” is not a PDF file, although its name says so. Get the file once more, or choose another one.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is not a PDF file, although its name says so. Get the file once more, or choose another one.</translation>
+    </message>
+    <message id="imageview.error.pdf-under-other-name">
+        <source>“%1” is a PDF file under another name. Let its name end in “.pdf”, in small letters, and open it again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is a PDF file under another name. Let its name end in “.pdf”, in small letters, and open it again.</translation>
+    </message>
+    <message id="imageview.error.no-pages">
+        <source>“%1” has no pages. Choose another PDF file.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” has no pages. Choose another PDF file.</translation>
+    </message>
+    <message id="imageview.error.page-too-large">
+        <source>The page of “%1” needs more memory than is free (%2 × %3 pixels). Close other programs, or choose a smaller PDF reading scale.</source>
+        <extracomment>%1 is the name of the file, %2 and %3 the width and height of the picture of its page.</extracomment>
+        <translation>The page of “%1” needs more memory than is free (%2 × %3 pixels). Close other programs, or choose a smaller PDF reading scale.</translation>
+    </message>
+    <message id="imageview.error.needs-password">
+        <source>“%1” is locked with a password. Open it once more and type the password.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is locked with a password. Open it once more and type the password.</translation>
+    </message>
+    <message id="imageview.error.unknown-protection">
+        <source>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</translation>
     </message>
 </context>
 </TS>
