@@ -118,6 +118,11 @@
         <extracomment>Tooltip of the zoom slider.</extracomment>
         <translation>Zoom the picture</translation>
     </message>
+    <message id="PageOfTotal">
+        <source>Page %1 of %2</source>
+        <extracomment>In the panel that chooses a page of a PDF file: %1 is the number of the page shown, %2 how many there are.</extracomment>
+        <translation>Page %1 of %2</translation>
+    </message>
     <message id="imageview.error.not-a-pdf">
         <source>“%1” is not a PDF file, although its name says so. Get the file once more, or choose another one.</source>
         <extracomment>%1 is the name of the file.</extracomment>
@@ -147,6 +152,101 @@
         <source>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</source>
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</translation>
+    </message>
+    <message id="imageview.choose-page.title">
+        <source>Choose a Page of “%1”</source>
+        <extracomment>Title of the panel that chooses a page of a PDF file: %1 is the name of the file.</extracomment>
+        <translation>Choose a Page of “%1”</translation>
+    </message>
+    <message id="imageview.choose-page.rendering">
+        <source>Painting the page …</source>
+        <extracomment>Shown in place of the preview of a page that takes long.</extracomment>
+        <translation>Painting the page …</translation>
+    </message>
+    <message id="imageview.choose-page.unreadable">
+        <source>This page cannot be shown.</source>
+        <extracomment>Shown in place of the preview of a damaged page.</extracomment>
+        <translation>This page cannot be shown.</translation>
+    </message>
+    <message id="imageview.choose-page.view-tip">
+        <source>Turn pages with the wheel; double-click to open this one</source>
+        <extracomment>Tooltip of the preview of a page.</extracomment>
+        <translation>Turn pages with the wheel; double-click to open this one</translation>
+    </message>
+    <message id="imageview.choose-page.view-name">
+        <source>Preview of the page</source>
+        <extracomment>Name of the preview for screen readers.</extracomment>
+        <translation>Preview of the page</translation>
+    </message>
+    <message id="imageview.choose-page.slider-tip">
+        <source>Drag to turn many pages quickly</source>
+        <extracomment>Tooltip of the page slider.</extracomment>
+        <translation>Drag to turn many pages quickly</translation>
+    </message>
+    <message id="imageview.choose-page.slider-name">
+        <source>Page slider</source>
+        <extracomment>Name of the slider for screen readers.</extracomment>
+        <translation>Page slider</translation>
+    </message>
+    <message id="imageview.choose-page.prev-name">
+        <source>Previous page</source>
+        <extracomment>Name of the button for screen readers.</extracomment>
+        <translation>Previous page</translation>
+    </message>
+    <message id="imageview.choose-page.prev-tip">
+        <source>Previous page (Page Up)</source>
+        <extracomment>Tooltip of the button.</extracomment>
+        <translation>Previous page (Page Up)</translation>
+    </message>
+    <message id="imageview.choose-page.next-name">
+        <source>Next page</source>
+        <extracomment>Name of the button for screen readers.</extracomment>
+        <translation>Next page</translation>
+    </message>
+    <message id="imageview.choose-page.next-tip">
+        <source>Next page (Page Down)</source>
+        <extracomment>Tooltip of the button.</extracomment>
+        <translation>Next page (Page Down)</translation>
+    </message>
+    <message id="imageview.choose-page.field-label">
+        <source>&amp;Page:</source>
+        <extracomment>Label of the field into which a page number is typed.</extracomment>
+        <translation>&amp;Page:</translation>
+    </message>
+    <message id="imageview.choose-page.field-tip">
+        <source>Type a page number and press Return</source>
+        <extracomment>Tooltip of the field.</extracomment>
+        <translation>Type a page number and press Return</translation>
+    </message>
+    <message id="imageview.choose-page.field-name">
+        <source>Page number</source>
+        <extracomment>Name of the field for screen readers.</extracomment>
+        <translation>Page number</translation>
+    </message>
+    <message id="imageview.choose-page.goto">
+        <source>&amp;Go</source>
+        <extracomment>The button that goes to the page whose number was typed.</extracomment>
+        <translation>&amp;Go</translation>
+    </message>
+    <message id="imageview.choose-page.goto-tip">
+        <source>Show the page with the typed number</source>
+        <extracomment>Tooltip of the button.</extracomment>
+        <translation>Show the page with the typed number</translation>
+    </message>
+    <message id="imageview.choose-page.cancel-tip">
+        <source>Open no page and keep the present picture</source>
+        <extracomment>Tooltip of the button.</extracomment>
+        <translation>Open no page and keep the present picture</translation>
+    </message>
+    <message id="imageview.choose-page.open">
+        <source>&amp;Open</source>
+        <extracomment>The button that opens the page shown.</extracomment>
+        <translation>&amp;Open</translation>
+    </message>
+    <message id="imageview.choose-page.open-tip">
+        <source>Open the page shown as the picture</source>
+        <extracomment>Tooltip of the button.</extracomment>
+        <translation>Open the page shown as the picture</translation>
     </message>
 </context>
 </TS>
