@@ -4,6 +4,7 @@
 #include "imageview/PictureScrollArea.h"
 #include "imageview/ZoomSlider.h"
 #include "platform/Desktop.h"
+#include "platform/PasswordSheets.h"
 #include "platform/Sheets.h"
 #include "platform/UndoManager.h"
 
@@ -43,6 +44,7 @@ class QuietSurroundings : public ImageViewDocument,
                           public ImageViewInfoPanel,
                           public ImageViewPrefs,
                           public Sheets,
+                          public PasswordSheets,
                           public Desktop
 {
 public:
@@ -53,6 +55,7 @@ public:
     bool isInAxisSettingMode() const override { return true; }
     UndoManager &undoManager() override { return m_undo; }
     Sheets &sheets() override { return *this; }
+    PasswordSheets &passwordSheets() override { return *this; }
     Desktop &desktop() override { return *this; }
     void updateChangeCount(ChangeKind /*kind*/) override {}
     void zoomWindow() override {}
@@ -91,6 +94,10 @@ public:
     void drawDataMarkersWithScale(QPainter & /*painter*/, float /*scale*/) override {}
     void updateImageInfo() override {}
     double guideInterval() const override { return 0.2; }
+    float pdfScale() const override { return 4; }
+    void askForPassword(const PasswordSheet & /*sheet*/,
+                        std::function<void(const std::optional<QString> &)> /*ended*/) override
+    {}
     void present(const Sheet & /*sheet*/, std::function<void(SheetAnswer)> /*ended*/) override {}
     FloatSize mainScreenSize() const override { return {1920, 1080}; }
     QPoint pointerPosition() const override { return {}; }

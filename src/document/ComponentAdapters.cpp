@@ -136,6 +136,8 @@ UndoManager &ImageViewAdapter::undoManager() { return m_document.undoManager(); 
 
 Sheets &ImageViewAdapter::sheets() { return m_document.sheets(); }
 
+PasswordSheets &ImageViewAdapter::passwordSheets() { return m_document.passwordSheets(); }
+
 Desktop &ImageViewAdapter::desktop() { return m_document.desktop(); }
 
 void ImageViewAdapter::updateChangeCount(ChangeKind kind) { m_document.updateChangeCount(kind); }
@@ -249,3 +251,5 @@ double ImageViewAdapter::guideInterval() const
 {
     return static_cast<double>(m_document.prefs().guideInterval());
 }
+
+float ImageViewAdapter::pdfScale() const { return m_document.prefs().pdfScale(); }

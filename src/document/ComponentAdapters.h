@@ -106,6 +106,7 @@ public:
     [[nodiscard]] bool isInAxisSettingMode() const override;
     [[nodiscard]] UndoManager &undoManager() override;
     [[nodiscard]] Sheets &sheets() override;
+    [[nodiscard]] PasswordSheets &passwordSheets() override;
     [[nodiscard]] Desktop &desktop() override;
     void updateChangeCount(ChangeKind kind) override;
     void zoomWindow() override;
@@ -138,6 +139,7 @@ public:
 
     void updateImageInfo() override;
     [[nodiscard]] double guideInterval() const override;
+    [[nodiscard]] float pdfScale() const override;
 
 private:
     MyDocument &m_document;

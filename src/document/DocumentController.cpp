@@ -7,6 +7,7 @@
 #include "platform/SystemPasteboard.h"
 #include "platform/Texts.h"
 #include "platform/WindowFilePanels.h"
+#include "platform/WindowPasswordSheets.h"
 #include "platform/WindowSheets.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "prefs/PrefsController.h"
@@ -91,7 +92,8 @@ WindowDialogs DocumentController::makeDialogs(QWidget &window)
 {
     auto sheets = std::make_unique<WindowSheets>(&window);
     auto panels = std::make_unique<WindowFilePanels>(*sheets);
-    return {std::move(sheets), std::move(panels)};
+    auto passwords = std::make_unique<WindowPasswordSheets>(*sheets);
+    return {std::move(sheets), std::move(panels), std::move(passwords)};
 }
 
 std::unique_ptr<Desktop> DocumentController::makeDesktop(QWidget &window)

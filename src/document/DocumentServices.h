@@ -4,6 +4,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/FilePanels.h"
+#include "platform/PasswordSheets.h"
 #include "platform/Sheets.h"
 
 #include <memory>
@@ -21,6 +22,7 @@ struct WindowDialogs
 {
     std::unique_ptr<Sheets> sheets;
     std::unique_ptr<FilePanels> panels;
+    std::unique_ptr<PasswordSheets> passwords;
 };
 
 /// What a document is handed by the application around it. Tests hand in services that answer.

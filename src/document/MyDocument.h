@@ -59,6 +59,7 @@ public:
     [[nodiscard]] CurvegrabPrefs &prefs() const;
     [[nodiscard]] UndoManager &undoManager() { return m_undoManager; }
     [[nodiscard]] Sheets &sheets() const { return *m_dialogs.sheets; }
+    [[nodiscard]] PasswordSheets &passwordSheets() const { return *m_dialogs.passwords; }
     [[nodiscard]] Clipboard &clipboard() const;
     [[nodiscard]] Desktop &desktop() const { return *m_desktop; }
     [[nodiscard]] DocumentMenus::SharedItems sharedItems() const;

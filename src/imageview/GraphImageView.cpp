@@ -2,6 +2,7 @@
 
 #include "imageview/DropArea.h"
 #include "imageview/ImageViewSurroundings.h"
+#include "imageview/PdfOpener.h"
 #include "imageview/PictureOpener.h"
 #include "imageview/PictureScrollArea.h"
 #include "imageview/ZoomSlider.h"
@@ -11,6 +12,7 @@
 #include "platform/Texts.h"
 
 #include <QAbstractButton>
+#include <QFileInfo>
 #include <QKeyEvent>
 
 #include <cmath>
@@ -25,6 +27,7 @@ bool isTurnedAside(float rotation) { return rotation != 0 && rotation != 180; }
 GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     : m_scrollArea(scrollArea)
     , m_opener(std::make_unique<PictureOpener>(scrollArea))
+    , m_pdfOpener(std::make_unique<PdfOpener>(scrollArea))
 {
     setObjectName(QStringLiteral("graphView"));
     setAccessibleName(texts::localized("imageview.view.name"));
@@ -90,7 +93,18 @@ bool GraphImageView::openImageFile(const QUrl &url)
 {
     if (!url.isLocalFile())
         return false;
-    return openPicture(url.toLocalFile());
+    const QString path = url.toLocalFile();
+    giveUpOpening();
+    if (QFileInfo(path).suffix() != QStringLiteral("pdf"))
+        return openPicture(path);
+    openPdfFile(path);
+    return true;
+}
+
+void GraphImageView::giveUpOpening()
+{
+    m_opener->cancel();
+    m_pdfOpener->cancel();
 }
 
 bool GraphImageView::openPicture(const PictureSource &source)
@@ -107,6 +121,19 @@ bool GraphImageView::openPicture(const PictureSource &source)
             Q_EMIT fileOpened(install(later));
         });
     return reading ? install(*reading) : true;
+}
+
+// What comes of a PDF file is installed even if it is nothing: the undo actions go all the same.
+void GraphImageView::openPdfFile(const QString &path)
+{
+    const auto install = [this, path](const PictureReading &reading) {
+        const bool taken = replaceImageWith(reading.picture);
+        if (!taken && reading.problem != PictureProblem::Cancelled)
+            presentProblem(pictureproblem::explanation(reading, path));
+        Q_EMIT fileOpened(taken);
+    };
+    m_pdfOpener->open(path, m_outlets.prefs->pdfScale(), m_outlets.document->passwordSheets(),
+                      install);
 }
 
 void GraphImageView::presentProblem(const QString &explanation)
@@ -283,7 +310,7 @@ void GraphImageView::prefsChanged()
 
 void GraphImageView::windowWillClose()
 {
-    m_opener->cancel();
+    giveUpOpening();
     m_originalImage.reset();
     m_scaledImage.reset();
     m_archivedImage.reset();

@@ -23,11 +23,13 @@ class ImageViewGuide;
 class ImageViewInfoPanel;
 class ImageViewPrefs;
 class ImageViewSeries;
+class PdfOpener;
 class PictureOpener;
 class PictureScrollArea;
 class PictureSource;
 class QMimeData;
 class QAbstractButton;
+struct PictureReading;
 class ZoomSlider;
 enum class SheetAnswer;
 
@@ -105,8 +107,8 @@ public:
     [[nodiscard]] const QTimer &mouseCheckTimer() const { return m_mouseCheckTimer; }
 
     /// Takes the picture of a local file. False: refused, and a sheet says why; the present
-    /// picture stays. Large files are read in the background: then true says that reading has
-    /// begun, and `fileOpened` how it ended.
+    /// picture stays. Large files and PDF files are read in the background: then true says that
+    /// reading has begun, and `fileOpened` how it ended.
     bool openImageFile(const QUrl &url);
     /// Whether a paste or drop of `pasteboard`, which may be null, would be taken: on the axis
     /// page a local file with the extension of a picture, or an image where there are no files.
@@ -191,7 +193,8 @@ public:
 
 Q_SIGNALS:
     void anchorDragEnded();
-    /// The reading of a large file has ended; `taken` says whether its picture was installed.
+    /// The reading of a file in the background has ended; `taken` says whether its picture was
+    /// installed.
     void fileOpened(bool taken);
     void hoveringDragChanged(HoveringDrag drag);
     void pictureChanged();
@@ -211,7 +214,9 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void giveUpOpening();
     bool openPicture(const PictureSource &source);
+    void openPdfFile(const QString &path);
     void presentProblem(const QString &explanation);
     void imageRotated();
     void makeScaledImage();
@@ -254,6 +259,7 @@ private:
     PictureScrollArea &m_scrollArea;
     ImageViewOutlets m_outlets;
     std::unique_ptr<PictureOpener> m_opener;
+    std::unique_ptr<PdfOpener> m_pdfOpener;
 
     float m_imageScale = 0.1F;
     float m_rotation = 0;

@@ -33,6 +33,7 @@ bool GraphImageView::replaceImageWithPasteboard(const QMimeData *pasteboard)
         return false;
     if (const std::optional<QString> file = pasteboardpicture::firstFile(*pasteboard))
         return openImageFile(QUrl::fromLocalFile(*file));
+    giveUpOpening();
     const PictureReader reader(picturememory::available());
     if (const auto source = pasteboardpicture::imageSource(*pasteboard, reader))
         return openPicture(*source);

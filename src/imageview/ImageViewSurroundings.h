@@ -7,6 +7,7 @@
 
 class Desktop;
 class QPainter;
+class PasswordSheets;
 class Sheets;
 class UndoManager;
 class ZKConvCoordinate;
@@ -22,6 +23,7 @@ public:
 
     [[nodiscard]] virtual UndoManager &undoManager() = 0;
     [[nodiscard]] virtual Sheets &sheets() = 0;
+    [[nodiscard]] virtual PasswordSheets &passwordSheets() = 0;
     [[nodiscard]] virtual Desktop &desktop() = 0;
     virtual void updateChangeCount(ChangeKind kind) = 0;
 
@@ -117,4 +119,6 @@ public:
     virtual ~ImageViewPrefs() = default;
     /// The seconds between two looks at the pointer.
     [[nodiscard]] virtual double guideInterval() const = 0;
+    /// How many times their own size the pages of PDF files are read (1 ... 8).
+    [[nodiscard]] virtual float pdfScale() const = 0;
 };

@@ -7,11 +7,10 @@ namespace picturesuffixes {
 
 QStringList all()
 {
-    QStringList suffixes;
+    // Whether or not the toolkit reads it as a bitmap: PDF files have a reader of our own.
+    QStringList suffixes{QStringLiteral("pdf")};
     for (const QByteArray &format : QImageReader::supportedImageFormats())
         suffixes.append(QString::fromLatin1(format).toLower());
-    // Whether or not the toolkit reads it as a bitmap, which is not the way it is opened.
-    suffixes.append(QStringLiteral("pdf"));
     suffixes.removeDuplicates();
     suffixes.sort();
     return suffixes;

@@ -35,7 +35,19 @@ void ReadingProgress::showFor(const QString &fileName)
 {
     m_label->setText(
         texts::localized("imageview.reading.label").replace(QStringLiteral("%1"), fileName));
+    m_bar->setRange(0, 100);
     setPercent(0);
+    appear();
+}
+
+void ReadingProgress::showBusyFor(const QString &fileName)
+{
+    showFor(fileName);
+    m_bar->setRange(0, 0);
+}
+
+void ReadingProgress::appear()
+{
     adjustSize();
     moveToMiddle();
     show();

@@ -17,6 +17,8 @@ public:
 
     void showFor(const QString &fileName);
     void setPercent(int percent);
+    /// For work of which nobody knows how far it has come.
+    void showBusyFor(const QString &fileName);
 
 Q_SIGNALS:
     void cancelled();
@@ -25,6 +27,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void appear();
     void moveToMiddle();
 
     QLabel *m_label;

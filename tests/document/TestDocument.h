@@ -12,6 +12,7 @@
 #include "support/FakeClipboard.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFilePanels.h"
+#include "support/FakePasswordSheets.h"
 #include "support/FakePasteboard.h"
 #include "support/RecordingSheets.h"
 #include "ui_MyDocument.h"
@@ -65,7 +66,9 @@ public:
         auto madePanels = std::make_unique<FakeFilePanels>();
         sheets = madeSheets.get();
         panels = madePanels.get();
-        return {std::move(madeSheets), std::move(madePanels)};
+        auto madePasswords = std::make_unique<FakePasswordSheets>();
+        passwords = madePasswords.get();
+        return {std::move(madeSheets), std::move(madePanels), std::move(madePasswords)};
     }
     std::unique_ptr<Desktop> makeDesktop(QWidget &) override
     {
@@ -89,6 +92,7 @@ public:
     FakePasteboard fakePasteboard;
     RecordingSheets *sheets = nullptr;
     FakeFilePanels *panels = nullptr;
+    FakePasswordSheets *passwords = nullptr;
     FakeDesktop *desktop = nullptr;
     MyDocument *keyDocument = nullptr;
     int newDocuments = 0;

@@ -7,6 +7,7 @@
 #include "platform/Desktop.h"
 #include "platform/Sheets.h"
 #include "platform/UndoManager.h"
+#include "support/FakePasswordSheets.h"
 
 #include <QPainter>
 #include <QPushButton>
@@ -57,6 +58,8 @@ public:
     std::shared_ptr<const ZKConvCoordinate> inForce;
     int changes = 0;
     UndoManager undo;
+    FakePasswordSheets passwords;
+    float scaleOfPages = 4;
     GraphImageView *view = nullptr;
 
     void note(const std::string &call) { calls.push_back(call); }
@@ -68,6 +71,7 @@ public:
     bool isInAxisSettingMode() const override { return axisSetting; }
     UndoManager &undoManager() override { return undo; }
     Sheets &sheets() override { return *this; }
+    PasswordSheets &passwordSheets() override { return passwords; }
     Desktop &desktop() override { return *this; }
     void updateChangeCount(ChangeKind /*kind*/) override
     {
@@ -159,6 +163,7 @@ public:
 
     void updateImageInfo() override { note("updateImageInfo"); }
     double guideInterval() const override { return interval; }
+    float pdfScale() const override { return scaleOfPages; }
 
     void present(const Sheet &sheet, std::function<void(SheetAnswer)> ended) override
     {

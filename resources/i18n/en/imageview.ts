@@ -153,6 +153,21 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</translation>
     </message>
+    <message id="imageview.pdf.password-title">
+        <source>“%1” is locked with a password</source>
+        <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>
+        <translation>“%1” is locked with a password</translation>
+    </message>
+    <message id="imageview.pdf.password-text">
+        <source>Type the password to open the file.</source>
+        <extracomment>In the sheet that asks for the password of a PDF file.</extracomment>
+        <translation>Type the password to open the file.</translation>
+    </message>
+    <message id="imageview.pdf.password-was-wrong">
+        <source>This password is not the right one. Check the Caps Lock key and type it again.</source>
+        <extracomment>In the sheet that asks for the password of a PDF file, after a wrong one.</extracomment>
+        <translation>This password is not the right one. Check the Caps Lock key and type it again.</translation>
+    </message>
     <message id="imageview.choose-page.title">
         <source>Choose a Page of “%1”</source>
         <extracomment>Title of the panel that chooses a page of a PDF file: %1 is the name of the file.</extracomment>
