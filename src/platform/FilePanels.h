@@ -17,6 +17,17 @@ public:
     virtual void chooseTextFileToSave(const QString &message, const QString &proposedName,
                                       std::function<void(const QString &path)> chosen) = 0;
 
+    /// Asks where to save a document, starting with the path `proposed` (a bare name: in the folder
+    /// where the user was last). The path handed to `chosen` ends in ".crvgrab" (in any case), and
+    /// the user has agreed to overwriting it if it exists.
+    virtual void chooseDocumentToSave(const QString &proposed,
+                                      std::function<void(const QString &path)> chosen) = 0;
+
+    /// Asks for documents and pictures, of which there may be several. `suffixes` are those of the
+    /// pictures, without their point.
+    virtual void chooseFilesToOpen(const QStringList &suffixes,
+                                   std::function<void(const QStringList &paths)> chosen) = 0;
+
     /// Asks for a picture file. `suffixes` are file extensions without their point.
     virtual void choosePictureToOpen(const QStringList &suffixes,
                                      std::function<void(const QString &path)> chosen) = 0;

@@ -11,9 +11,10 @@ struct Sheet
     QString informativeText; ///< the explanation below it
     QString defaultButton;   ///< the button that Return presses
     QString alternateButton; ///< the button that Escape presses; empty: there is none
+    QString otherButton{};   ///< a third way, often one that loses something; empty: there is none
 };
 
-enum class SheetAnswer { Default, Alternate };
+enum class SheetAnswer { Default, Alternate, Other };
 
 /// Shows sheets at one window, one at a time, in the order in which they were asked for.
 /// Showing never blocks: the caller goes on, and the end handler runs when the user has answered.

@@ -3,6 +3,7 @@
 #include "platform/Texts.h"
 #include "platform/WindowSheets.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -10,12 +11,6 @@
 #include <utility>
 
 namespace {
-
-QString withTextSuffix(const QString &path)
-{
-    const QString suffix = QStringLiteral(".txt");
-    return path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
-}
 
 QString filter(const char *nameKey, const QString &patterns)
 {
@@ -31,26 +26,24 @@ QString patternsOf(const QStringList &suffixes)
 }
 
 QDialog *makeSavePanel(QWidget *window, const QString &message, const QString &folder,
-                       const QString &name)
+                       const QString &name, const QString &nameFilter)
 {
     auto *const panel = new QFileDialog(window, message, folder);
     panel->setAcceptMode(QFileDialog::AcceptSave);
     panel->setFileMode(QFileDialog::AnyFile);
-    panel->setNameFilter(filter("platform.files.texts", QStringLiteral("*.txt")));
+    panel->setNameFilter(nameFilter);
     // The name is not complete yet when the panel would ask, so the question comes later.
     panel->setOption(QFileDialog::DontConfirmOverwrite);
     panel->selectFile(name);
     return panel;
 }
 
-QDialog *makeOpenPanel(QWidget *window, const QString &folder, const QStringList &suffixes)
+QFileDialog *makeOpenPanel(QWidget *window, const QString &folder)
 {
     auto *const panel =
         new QFileDialog(window, texts::localized("platform.files.openPicture"), folder);
     panel->setAcceptMode(QFileDialog::AcceptOpen);
     panel->setFileMode(QFileDialog::ExistingFile);
-    panel->setNameFilters({filter("platform.files.pictures", patternsOf(suffixes)),
-                           filter("platform.files.all", QStringLiteral("*"))});
     return panel;
 }
 
@@ -75,41 +68,93 @@ WindowFilePanels::WindowFilePanels(WindowSheets &sheets)
     , m_folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
 {}
 
+QString WindowFilePanels::Saving::completed(const QString &path) const
+{
+    return path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
+}
+
 void WindowFilePanels::chooseTextFileToSave(const QString &message, const QString &proposedName,
                                             std::function<void(const QString &path)> chosen)
 {
+    chooseFileToSave({message, "platform.files.texts", QStringLiteral(".txt")}, proposedName,
+                     chosen);
+}
+
+void WindowFilePanels::chooseDocumentToSave(const QString &proposed,
+                                            std::function<void(const QString &path)> chosen)
+{
+    const QFileInfo file(proposed);
+    if (file.isAbsolute() && file.absoluteDir().exists())
+        remember(proposed);
+    chooseFileToSave({texts::localized("platform.files.saveDocument"), "platform.files.documents",
+                      QStringLiteral(".crvgrab")},
+                     file.fileName(), chosen);
+}
+
+void WindowFilePanels::chooseFileToSave(const Saving &saving, const QString &proposed,
+                                        const Chosen &chosen)
+{
     m_sheets.presentDialog(
-        [this, message, proposedName](QWidget *window) {
-            return makeSavePanel(window, message, m_folder, proposedName);
+        [this, saving, proposed](QWidget *window) {
+            return makeSavePanel(window, saving.message, m_folder, proposed,
+                                 filter(saving.filterKey, QLatin1Char('*') + saving.suffix));
         },
-        [this, message, chosen = std::move(chosen)](const QDialog &panel, int result) {
+        [this, saving, chosen](const QDialog &panel, int result) {
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())
                 return;
             remember(path);
-            save(message, withTextSuffix(path), chosen);
+            save(saving, saving.completed(path), chosen);
         });
 }
 
-void WindowFilePanels::save(const QString &message, const QString &path, const Chosen &chosen)
+void WindowFilePanels::save(const Saving &saving, const QString &path, const Chosen &chosen)
 {
     if (!QFileInfo::exists(path)) {
         chosen(path);
         return;
     }
-    m_sheets.present(overwriteQuestion(path), [this, message, path, chosen](SheetAnswer answer) {
+    m_sheets.present(overwriteQuestion(path), [this, saving, path, chosen](SheetAnswer answer) {
         if (answer == SheetAnswer::Default)
             chosen(path);
         else
-            chooseTextFileToSave(message, QFileInfo(path).fileName(), chosen);
+            chooseFileToSave(saving, QFileInfo(path).fileName(), chosen);
     });
+}
+
+void WindowFilePanels::chooseFilesToOpen(const QStringList &suffixes,
+                                         std::function<void(const QStringList &paths)> chosen)
+{
+    const QStringList all = QStringList{QStringLiteral("crvgrab")} + suffixes;
+    m_sheets.presentDialog(
+        [this, all](QWidget *window) {
+            QFileDialog *const panel = makeOpenPanel(window, m_folder);
+            panel->setWindowTitle(texts::localized("platform.files.openFiles"));
+            panel->setFileMode(QFileDialog::ExistingFiles);
+            panel->setNameFilters({filter("platform.files.documentsAndPictures", patternsOf(all)),
+                                   filter("platform.files.documents", QStringLiteral("*.crvgrab")),
+                                   filter("platform.files.all", QStringLiteral("*"))});
+            return panel;
+        },
+        [this, chosen = std::move(chosen)](const QDialog &panel, int result) {
+            const QString path = chosenPath(panel, result);
+            if (path.isEmpty())
+                return;
+            remember(path);
+            chosen(static_cast<const QFileDialog &>(panel).selectedFiles());
+        });
 }
 
 void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
                                            std::function<void(const QString &path)> chosen)
 {
     m_sheets.presentDialog(
-        [this, suffixes](QWidget *window) { return makeOpenPanel(window, m_folder, suffixes); },
+        [this, suffixes](QWidget *window) {
+            QFileDialog *const panel = makeOpenPanel(window, m_folder);
+            panel->setNameFilters({filter("platform.files.pictures", patternsOf(suffixes)),
+                                   filter("platform.files.all", QStringLiteral("*"))});
+            return panel;
+        },
         [this, chosen = std::move(chosen)](const QDialog &panel, int result) {
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())

@@ -15,13 +15,27 @@ public:
 
     void chooseTextFileToSave(const QString &message, const QString &proposedName,
                               std::function<void(const QString &path)> chosen) override;
+    void chooseDocumentToSave(const QString &proposed,
+                              std::function<void(const QString &path)> chosen) override;
+    void chooseFilesToOpen(const QStringList &suffixes,
+                           std::function<void(const QStringList &paths)> chosen) override;
     void choosePictureToOpen(const QStringList &suffixes,
                              std::function<void(const QString &path)> chosen) override;
 
 private:
     using Chosen = std::function<void(const QString &path)>;
 
-    void save(const QString &message, const QString &path, const Chosen &chosen);
+    /// How one kind of file is saved.
+    struct Saving
+    {
+        QString message;
+        const char *filterKey;
+        QString suffix; ///< with its point
+
+        [[nodiscard]] QString completed(const QString &path) const;
+    };
+    void chooseFileToSave(const Saving &saving, const QString &proposed, const Chosen &chosen);
+    void save(const Saving &saving, const QString &path, const Chosen &chosen);
     void remember(const QString &path);
 
     WindowSheets &m_sheets;

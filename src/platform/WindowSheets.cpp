@@ -34,6 +34,8 @@ QDialog *makeBox(const Sheet &sheet, QWidget *window)
     box->setEscapeButton(normal);
     if (isQuestion)
         box->setEscapeButton(box->addButton(sheet.alternateButton, QMessageBox::RejectRole));
+    if (!sheet.otherButton.isEmpty())
+        box->addButton(sheet.otherButton, QMessageBox::DestructiveRole);
     return box;
 }
 
@@ -43,7 +45,9 @@ SheetAnswer answerOf(const QDialog &dialog)
     const auto &box = static_cast<const QMessageBox &>(dialog);
     const QAbstractButton *const pressed =
         box.clickedButton() ? box.clickedButton() : box.escapeButton();
-    return pressed == box.defaultButton() ? SheetAnswer::Default : SheetAnswer::Alternate;
+    if (pressed == box.defaultButton())
+        return SheetAnswer::Default;
+    return pressed == box.escapeButton() ? SheetAnswer::Alternate : SheetAnswer::Other;
 }
 
 } // namespace

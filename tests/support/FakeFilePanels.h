@@ -26,6 +26,22 @@ public:
         ++m_openCount;
     }
 
+    void chooseDocumentToSave(const QString &proposed,
+                              std::function<void(const QString &path)> chosen) override
+    {
+        m_proposedName = proposed;
+        m_chosen = std::move(chosen);
+        ++m_saveCount;
+    }
+
+    void chooseFilesToOpen(const QStringList &suffixes,
+                           std::function<void(const QStringList &paths)> chosen) override
+    {
+        m_suffixes = suffixes;
+        m_chosen = [chosen = std::move(chosen)](const QString &path) { chosen({path}); };
+        ++m_openCount;
+    }
+
     [[nodiscard]] bool isAsking() const { return m_chosen != nullptr; }
     [[nodiscard]] const QString &message() const { return m_message; }
     [[nodiscard]] const QString &proposedName() const { return m_proposedName; }

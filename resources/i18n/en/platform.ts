@@ -58,5 +58,45 @@
         <extracomment>The button that opens the locked file.</extracomment>
         <translation>&amp;Open</translation>
     </message>
+    <message id="platform.files.saveDocument">
+        <source>Save the document</source>
+        <translation>Save the document</translation>
+    </message>
+    <message id="platform.files.openFiles">
+        <source>Open documents and pictures</source>
+        <translation>Open documents and pictures</translation>
+    </message>
+    <message id="platform.files.documents">
+        <source>Curvegrab X documents</source>
+        <translation>Curvegrab X documents</translation>
+    </message>
+    <message id="platform.files.documentsAndPictures">
+        <source>Documents and pictures</source>
+        <translation>Documents and pictures</translation>
+    </message>
+    <message id="platform.file.diskFull">
+        <source>The disk is full. Make room on it, or save to another one.</source>
+        <translation>The disk is full. Make room on it, or save to another one.</translation>
+    </message>
+    <message id="platform.file.tooLarge">
+        <source>The file would be larger than this disk allows. Save it to another one.</source>
+        <translation>The file would be larger than this disk allows. Save it to another one.</translation>
+    </message>
+    <message id="platform.file.folderGone">
+        <source>The folder is not there any more. Connect its disk again, or save to another folder.</source>
+        <translation>The folder is not there any more. Connect its disk again, or save to another folder.</translation>
+    </message>
+    <message id="platform.file.isFolder">
+        <source>There is a folder of that name. Choose another name.</source>
+        <translation>There is a folder of that name. Choose another name.</translation>
+    </message>
+    <message id="platform.file.readOnly">
+        <source>The file is protected from changes. Save under another name, or allow changes to it.</source>
+        <translation>The file is protected from changes. Save under another name, or allow changes to it.</translation>
+    </message>
+    <message id="platform.file.folderReadOnly">
+        <source>You may not write into this folder. Save to another one.</source>
+        <translation>You may not write into this folder. Save to another one.</translation>
+    </message>
 </context>
 </TS>
