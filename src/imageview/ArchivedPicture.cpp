@@ -106,6 +106,13 @@ std::optional<FloatSize> ArchivedPicture::size() const
 
 std::optional<Picture> ArchivedPicture::picture() const
 {
+    if (!m_picture)
+        m_picture = decoded();
+    return m_picture;
+}
+
+std::optional<Picture> ArchivedPicture::decoded() const
+{
     QByteArray bytes = rawBytes(*m_bytes);
     QBuffer buffer(&bytes);
     QImageReader::setAllocationLimit(0);

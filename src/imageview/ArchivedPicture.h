@@ -30,9 +30,14 @@ public:
     /// The picture's size in points, from the head of the bytes; nothing if that is damaged.
     [[nodiscard]] std::optional<FloatSize> size() const;
 
-    /// The bytes as a picture, decoded at each call; nothing if they are damaged.
+    /// The bytes as a picture, decoded once; nothing if they are damaged.
     [[nodiscard]] std::optional<Picture> picture() const;
 
+    [[nodiscard]] const ArchivedBytes &bytes() const { return m_bytes; }
+
 private:
+    [[nodiscard]] std::optional<Picture> decoded() const;
+
     ArchivedBytes m_bytes;
+    mutable std::optional<Picture> m_picture;
 };

@@ -13,8 +13,10 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <vector>
 
 class ImageViewAxes;
@@ -153,6 +155,9 @@ public:
     /// Brings the controls and the hover timer in line with the picture and the page.
     void setButtonStates();
 
+    /// Runs `ready` once dataForSave() has no picture left to encode: at once, or after a large
+    /// picture was encoded in the background.
+    void encodePicture(std::function<void()> ready);
     [[nodiscard]] ArchiveDictionary dataForSave() const;
     /// False for no data. A damaged picture counts as none.
     bool loadFromData(const ArchiveDictionary *stored);
@@ -218,6 +223,8 @@ private:
     bool openPicture(const PictureSource &source);
     void openPdfFile(const QString &path);
     void presentProblem(const QString &explanation);
+    void beginEncoding();
+    void endEncoding(qint64 pixelsKey, std::shared_ptr<const ArchivedPicture> encoded);
     void imageRotated();
     void makeScaledImage();
     void zoomAbout(double factor, QPointF viewportPosition);
@@ -266,6 +273,8 @@ private:
     std::optional<Picture> m_originalImage;
     std::optional<ScaledImage> m_scaledImage;
     mutable std::shared_ptr<const ArchivedPicture> m_archivedImage; ///< made at the first save
+    std::vector<std::function<void()>> m_waitingForEncoding;
+    std::jthread m_encoding;
 
     QTimer m_mouseCheckTimer;
     int m_mouseDownMode = 0;
