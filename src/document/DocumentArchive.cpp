@@ -1,6 +1,7 @@
 #include "document/DocumentArchive.h"
 
 #include "capture/SeriesArchive.h"
+#include "conversion/ZKConvCoordinate.h"
 #include "document/DocumentKeys.h"
 #include "platform/Texts.h"
 
@@ -8,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <string>
 #include <type_traits>
 #include <unordered_map>
 #include <variant>
@@ -23,7 +25,25 @@ constexpr auto referenceTag = QCborTag(29);
 template <class T, class... Others>
 constexpr bool isOneOf = (std::is_same_v<T, Others> || ...);
 
-/// Writes one archive tree. Objects that stand at several places are found beforehand.
+/// The class and the exact bits of what `object` archives.
+std::string bitsOf(const Archivable &object)
+{
+    SequentialEncoder coder;
+    object.encodeWithCoder(coder);
+    std::string bits(object.className());
+    for (const ArchivedItem &item : coder.items()) {
+        std::visit(
+            [&bits](const auto &value) {
+                bits.append(reinterpret_cast<const char *>(&value), sizeof value);
+            },
+            item);
+    }
+    return bits;
+}
+
+/// Writes one archive tree. Objects that stand at several places are found beforehand. Converters
+/// never change, so two of the same bits are one: an opened document, whose axes have made their
+/// converter anew, is written as it was read.
 class TreeWriter
 {
 public:
@@ -46,13 +66,20 @@ private:
     void countObjects(const ArchiveValue &value)
     {
         if (const auto *object = std::get_if<Object>(&value.value)) {
-            ++m_places[object->get()];
+            ++m_places[representativeOf(*object)];
         } else if (const auto *array = std::get_if<ArchiveArray>(&value.value)) {
             for (const ArchiveValue &entry : *array)
                 countObjects(entry);
         } else if (const auto *dictionary = std::get_if<ArchiveDictionary>(&value.value)) {
             countObjects(*dictionary);
         }
+    }
+
+    const Archivable *representativeOf(const Object &object)
+    {
+        if (dynamic_cast<const ZKConvCoordinate *>(object.get()) == nullptr)
+            return object.get();
+        return m_converters.try_emplace(bitsOf(*object), object.get()).first->second;
     }
 
     void write(const ArchiveValue &value)
@@ -94,8 +121,9 @@ private:
             m_writer.appendNull();
             return;
         }
-        if (m_places[object.get()] > 1) {
-            const auto [known, isNew] = m_numbers.try_emplace(object.get(), m_numbers.size());
+        const Archivable *one = representativeOf(object);
+        if (m_places[one] > 1) {
+            const auto [known, isNew] = m_numbers.try_emplace(one, m_numbers.size());
             if (!isNew) {
                 m_writer.append(referenceTag);
                 m_writer.append(quint64{known->second});
@@ -140,6 +168,7 @@ private:
     }
 
     QCborStreamWriter m_writer;
+    std::unordered_map<std::string, const Archivable *> m_converters;
     std::unordered_map<const Archivable *, int> m_places;
     std::unordered_map<const Archivable *, std::size_t> m_numbers;
 };

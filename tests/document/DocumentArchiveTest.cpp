@@ -141,6 +141,17 @@ TEST(DocumentArchive, anObjectAtTwoPlacesIsWrittenOnceAndReferredTo)
     EXPECT_EQ(std::get<Object>((*array)[0].value), std::get<Object>((*array)[2].value));
 }
 
+TEST(DocumentArchive, convertersOfTheSameBitsAreWrittenOnce)
+{
+    using Object = std::shared_ptr<const Archivable>;
+    const auto reading = documentarchive::unarchived(archivedData(
+        dictionaryWith("c", {ArchiveArray{{Object(std::make_shared<ZKConvCoordinate>())},
+                                          {Object(std::make_shared<ZKConvCoordinate>())}}})));
+    const ArchiveArray *array = reading.root.arrayForKey("c");
+    ASSERT_TRUE(array != nullptr && array->size() == 2);
+    EXPECT_EQ(std::get<Object>((*array)[0].value), std::get<Object>((*array)[1].value));
+}
+
 TEST(DocumentArchive, thePictureIsThePngBytesThemselves)
 {
     const QByteArray bytes = archivedData(sampleroots::root(Kind::Parallel));
