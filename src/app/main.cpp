@@ -90,10 +90,10 @@ int main(int argc, char **argv)
     HelpBookViewer help(defaults, [](const QString &command) {
         return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
     });
-    DocumentController documents(prefs);
+    DocumentController documents(prefs, DocumentController::standardStateFolder());
     documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
-    documents.openFiles(commandLine.files);
+    documents.start(commandLine.files);
     prefs.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -14,16 +14,19 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QFileInfo>
+#include <QDir>
 #include <QKeySequence>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <utility>
 
-DocumentController::DocumentController(CurvegrabPrefs &prefs, QObject *parent)
+DocumentController::DocumentController(CurvegrabPrefs &prefs, const QString &stateFolder,
+                                       QObject *parent)
     : QObject(parent)
     , m_prefs(prefs)
     , m_panels(std::make_unique<ApplicationPanels>(prefs))
+    , m_recentFiles(QDir(stateFolder).filePath(QStringLiteral("state.json")))
     , m_clipboard(std::make_unique<SystemClipboard>())
     , m_pasteboard(std::make_unique<SystemPasteboard>())
 {
@@ -64,15 +67,9 @@ MyDocument &DocumentController::addDocument()
     return *m_documents.back();
 }
 
-void DocumentController::openFiles(const QStringList &paths)
+QString DocumentController::standardStateFolder()
 {
-    if (paths.isEmpty())
-        newDocument();
-    for (const QString &path : paths) {
-        MyDocument &document = addDocument();
-        document.showWindow();
-        document.openPicture(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
-    }
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
 }
 
 NotificationCentre &DocumentController::notificationCentre()
@@ -103,7 +100,19 @@ std::unique_ptr<Desktop> DocumentController::makeDesktop(QWidget &window)
 
 void DocumentController::newDocument() { addDocument().showWindow(); }
 
-void DocumentController::terminate() { QApplication::closeAllWindows(); }
+// Asks document by document; a cancelled question ends it all.
+void DocumentController::terminate()
+{
+    if (m_documents.empty())
+        return;
+    const auto edited =
+        std::find_if(m_documents.begin(), m_documents.end(),
+                     [](const auto &document) { return document->isDocumentEdited(); });
+    MyDocument &next = edited == m_documents.end() ? *m_documents.front() : **edited;
+    next.closeThen([this] {
+        QMetaObject::invokeMethod(this, &DocumentController::terminate, Qt::QueuedConnection);
+    });
+}
 
 void DocumentController::documentBecameKey(MyDocument &document) { m_keyDocument = &document; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentServices.h"
+#include "document/RecentFiles.h"
 
 #include <QObject>
 #include <QStringList>
@@ -19,11 +20,18 @@ class DocumentController : public QObject, public DocumentServices
     Q_OBJECT
 
 public:
-    explicit DocumentController(CurvegrabPrefs &prefs, QObject *parent = nullptr);
+    /// Keeps the list of recent files in `stateFolder`.
+    DocumentController(CurvegrabPrefs &prefs, const QString &stateFolder,
+                       QObject *parent = nullptr);
     ~DocumentController() override;
 
-    /// Opens each picture in a window of its own; without files one empty window.
-    void openFiles(const QStringList &paths);
+    /// What is left between sessions, preferences aside.
+    [[nodiscard]] static QString standardStateFolder();
+
+    /// Opens the files that the program is started with; without any, one empty window.
+    void start(const QStringList &paths);
+    /// Brings a window to the front; a new one if there is none.
+    void reopen();
 
     [[nodiscard]] const std::vector<std::unique_ptr<MyDocument>> &documents() const
     {
@@ -43,17 +51,31 @@ public:
     [[nodiscard]] std::unique_ptr<Desktop> makeDesktop(QWidget &window) override;
     void newDocument() override;
     void editPreferences() override;
+    void openFiles(const QStringList &paths) override;
+    [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
     void documentClosed(MyDocument &document) override;
 
 private:
     MyDocument &addDocument();
+    void open(const QString &path);
+    void readDocument(const QString &path);
+    void readPicture(const QString &path);
+    void finishOpening(MyDocument &document);
+    void offerRemains(MyDocument &document, const QString &path);
+    void refuse(const QString &path, const QString &reason);
+    [[nodiscard]] MyDocument *documentOf(const QString &path) const;
+    /// An untouched document to open a file in, or a new one.
+    [[nodiscard]] MyDocument &documentForOpening();
+    /// A document at whose window messages about files are shown.
+    [[nodiscard]] MyDocument &documentForMessages();
     QAction *addSharedItem(const char *name, const char *text, int tag, const QKeySequence &keys,
                            void (MyDocument::*invoke)());
 
     CurvegrabPrefs &m_prefs;
     std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
+    RecentFiles m_recentFiles;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;
     std::unique_ptr<SystemPasteboard> m_pasteboard;

@@ -2,6 +2,7 @@
 
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
+#include "document/RecentFilesMenu.h"
 #include "imageview/MouseDownMode.h"
 #include "platform/Texts.h"
 #include "platform/UndoManager.h"
@@ -64,28 +65,50 @@ void DocumentMenus::addFileMenu()
                noRule,
                {QKeySequence::New},
                &MyDocument::newDocument});
-    add(menu, {"openImageFile",
+    add(menu, {"openDocument",
                "document.command.open",
                noRule,
                {QKeySequence::Open},
+               &MyDocument::openDocument});
+    m_recentFiles = new RecentFilesMenu(m_document, menu);
+    add(menu, {"openImageFile",
+               "document.command.openPicture",
+               noRule,
+               {keys("Ctrl+Shift+O")},
                &MyDocument::openImageFile});
-    menu->addSeparator();
-    add(menu, {"saveDataAs",
-               "document.command.saveAll",
-               menurules::SaveAllData,
-               {QKeySequence::Save},
-               &MyDocument::saveDataAs});
-    add(menu, {"saveSelectionAs",
-               "document.command.saveSelection",
-               menurules::SaveSelection,
-               {keys("Ctrl+Shift+S")},
-               &MyDocument::saveSelectionAs});
     menu->addSeparator();
     add(menu, {"performClose",
                "document.command.close",
                noRule,
                {QKeySequence::Close},
                &MyDocument::performClose});
+    add(menu, {"saveDocument",
+               "document.command.save",
+               noRule,
+               {QKeySequence::Save},
+               &MyDocument::saveDocument});
+    add(menu, {"saveDocumentAs",
+               "document.command.saveAs",
+               noRule,
+               {keys("Ctrl+Shift+S")},
+               &MyDocument::saveDocumentAs});
+    m_revert = add(menu, {"revertDocumentToSaved",
+                          "document.command.revert",
+                          noRule,
+                          {},
+                          &MyDocument::revertDocumentToSaved});
+    menu->addSeparator();
+    add(menu, {"saveDataAs",
+               "document.command.saveAll",
+               menurules::SaveAllData,
+               {keys("Ctrl+E")},
+               &MyDocument::saveDataAs});
+    add(menu, {"saveSelectionAs",
+               "document.command.saveSelection",
+               menurules::SaveSelection,
+               {keys("Ctrl+Shift+E")},
+               &MyDocument::saveSelectionAs});
+    menu->addSeparator();
     add(menu,
         {"terminate", "document.command.quit", noRule, {keys("Ctrl+Q")}, &MyDocument::terminate});
 }
@@ -327,6 +350,7 @@ void DocumentMenus::refresh()
     for (QAction *action : m_actions)
         action->setEnabled(
             menurules::validateMenuItem(action->property(tagProperty).toInt(), state));
+    m_revert->setEnabled(m_document.fileStamp() && m_document.isDocumentEdited());
     refreshUndoTitles();
     refreshMarks();
     if (!m_document.isKey())

@@ -10,6 +10,7 @@ class MyDocument;
 class QAction;
 class QMainWindow;
 class QMenu;
+class RecentFilesMenu;
 
 /// The menu bar of a document's window: every command is an action named after it, whose property
 /// "tag" selects its rule.
@@ -60,6 +61,8 @@ private:
     QMainWindow &m_window;
     SharedItems m_shared;
     std::vector<QAction *> m_actions;
+    RecentFilesMenu *m_recentFiles = nullptr; // owned by the menu
+    QAction *m_revert = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     std::vector<QAction *> m_axisTypes;

@@ -7,6 +7,8 @@
 #include "platform/PasswordSheets.h"
 #include "platform/Sheets.h"
 
+#include <QStringList>
+
 #include <memory>
 
 class Clipboard;
@@ -15,6 +17,7 @@ class HelpViewer;
 class MyDocument;
 class NotificationCentre;
 class Pasteboard;
+class RecentFiles;
 class QWidget;
 
 /// What a window asks its user with. The panels go before the sheets.
@@ -45,6 +48,9 @@ public:
     /// Commands that concern the whole application.
     virtual void newDocument() = 0;
     virtual void editPreferences() = 0;
+    /// Opens documents and pictures, each in a window of its own.
+    virtual void openFiles(const QStringList &paths) = 0;
+    [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
     virtual void terminate() = 0;
     virtual void documentBecameKey(MyDocument &document) = 0;
     /// The document's window was closed; the document goes.

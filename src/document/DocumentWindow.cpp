@@ -1,6 +1,7 @@
 #include "document/DocumentWindow.h"
 
 #include "document/ChosenButtonStyle.h"
+#include "document/DocumentTypes.h"
 #include "document/EmptyPictureHint.h"
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
@@ -9,8 +10,10 @@
 
 #include <QAbstractItemModel>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QEvent>
 #include <QGroupBox>
+#include <QMimeData>
 
 #include <algorithm>
 
@@ -37,7 +40,8 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     m_status = new StatusLine(this);
     m_ui->statusBar->addWidget(m_status, 1);
     m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);
-    connect(m_emptyHint, &EmptyPictureHint::openRequested, &m_document, &MyDocument::openImageFile);
+    connect(m_emptyHint, &EmptyPictureHint::openRequested, &m_document, &MyDocument::openDocument);
+    setAcceptDrops(true);
     applyIcons();
     tintChosenButtons();
     keepPlacesOfBoxes();
@@ -125,6 +129,29 @@ void DocumentWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange)
         applyIcons();
     QMainWindow::changeEvent(event);
+}
+
+// Documents that are dropped anywhere on the window are opened; what else is dropped is the
+// picture area's to take.
+void DocumentWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (documenttypes::documentPaths(*event->mimeData()).isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void DocumentWindow::dropEvent(QDropEvent *event)
+{
+    const QStringList paths = documenttypes::documentPaths(*event->mimeData());
+    if (paths.isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // After the drop has ended: opening may bring up a question.
+    QMetaObject::invokeMethod(
+        &m_document, [&document = m_document, paths] { document.openFiles(paths); },
+        Qt::QueuedConnection);
 }
 
 void DocumentWindow::closeEvent(QCloseEvent *event)

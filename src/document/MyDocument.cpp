@@ -5,8 +5,10 @@
 #include "capture/DataSeries.h"
 #include "capture/SeriesExport.h"
 #include "document/ComponentAdapters.h"
+#include "document/DocumentSaving.h"
 #include "document/DocumentStatus.h"
 #include "document/DocumentWindow.h"
+#include "document/RecentFiles.h"
 #include "document/ToolPalette.h"
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
@@ -20,10 +22,7 @@
 #include "ui_MyDocument.h"
 
 #include <QAction>
-#include <QEvent>
-#include <QFileInfo>
 #include <QScreen>
-#include <QWindow>
 
 #include <utility>
 
@@ -56,6 +55,7 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     m_menus = new DocumentMenus(*this, *m_window, services.sharedItems());
     m_status = new DocumentStatus(*this);
     m_tools = new ToolPalette(*this);
+    m_saving = std::make_unique<DocumentSaving>(*this, m_dialogs, *m_window->ui().statusBar);
     showTitle();
     showsChanged();
 }
@@ -125,48 +125,6 @@ void MyDocument::wire()
     m_currentAxes->replaceAxisDisplay();
 }
 
-void MyDocument::showWindow()
-{
-    m_window->resize(m_window->minimumSizeHint().expandedTo(QSize(760, 620)));
-    m_window->show();
-    showHideDataTable();
-}
-
-void MyDocument::openPicture(const QUrl &url)
-{
-    m_fileUrl = url;
-    showTitle();
-    QWindow *onScreen = m_window->windowHandle();
-    if (onScreen == nullptr || onScreen->isExposed())
-        readOwnPicture();
-    else
-        onScreen->installEventFilter(this);
-}
-
-bool MyDocument::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
-        watched->removeEventFilter(this);
-        QMetaObject::invokeMethod(this, &MyDocument::readOwnPicture, Qt::QueuedConnection);
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-// The document bears the name of its picture's file only if that gave a picture.
-void MyDocument::readOwnPicture()
-{
-    const auto ended = [this](bool taken) {
-        if (taken)
-            return;
-        m_fileUrl.clear();
-        showTitle();
-    };
-    if (!m_graphView->openImageFile(m_fileUrl))
-        ended(false);
-    else if (!hasImage()) // it is still being read
-        connect(m_graphView, &GraphImageView::fileOpened, this, ended, Qt::SingleShotConnection);
-}
-
 CurvegrabPrefs &MyDocument::prefs() const { return m_services.prefs(); }
 
 Clipboard &MyDocument::clipboard() const { return m_services.clipboard(); }
@@ -177,6 +135,10 @@ void MyDocument::updateChangeCount(ChangeKind kind)
 {
     switch (kind) {
     case ChangeKind::Done:
+        // What was undone since the save can no longer be redone.
+        m_savedStateIsGone = m_savedStateIsGone || m_changeCount < 0;
+        ++m_changeCount;
+        break;
     case ChangeKind::Redone:
         ++m_changeCount;
         break;
@@ -185,9 +147,12 @@ void MyDocument::updateChangeCount(ChangeKind kind)
         break;
     case ChangeKind::Cleared:
         m_changeCount = 0;
+        m_savedStateIsGone = false;
         break;
     }
     m_window->setWindowModified(isDocumentEdited());
+    if (kind != ChangeKind::Cleared)
+        Q_EMIT edited();
 }
 
 QString MyDocument::displayName() const
@@ -346,17 +311,9 @@ void MyDocument::windowDidResignKey()
 
 bool MyDocument::windowShouldClose()
 {
-    if (m_closeAgreed || !isDocumentEdited() || m_dataSeries->validSeries().empty())
+    if (m_closeAgreed || (!isDocumentEdited() && !m_saving->isBusy()))
         return true;
-    m_dialogs.sheets->present(
-        {texts::localized("document.close.title"), texts::localized("document.close.text"),
-         texts::localized("document.close.discard"), texts::localized("Cancel")},
-        [this](SheetAnswer answer) {
-            if (answer != SheetAnswer::Default)
-                return;
-            m_closeAgreed = true;
-            m_window->close();
-        });
+    closeThen({});
     return false;
 }
 
@@ -378,6 +335,24 @@ void MyDocument::showsChanged()
 }
 
 void MyDocument::newDocument() { m_services.newDocument(); }
+
+void MyDocument::openDocument()
+{
+    m_dialogs.panels->chooseFilesToOpen(
+        picturesuffixes::all(), [this](const QStringList &paths) { m_services.openFiles(paths); });
+}
+
+void MyDocument::openFiles(const QStringList &paths) { m_services.openFiles(paths); }
+
+QStringList MyDocument::recentFiles() const { return m_services.recentFiles().paths(); }
+
+void MyDocument::clearRecentFiles() { m_services.recentFiles().clear(); }
+
+void MyDocument::saveDocument() { m_saving->save({}); }
+
+void MyDocument::saveDocumentAs() { m_saving->saveAs({}); }
+
+void MyDocument::revertDocumentToSaved() { m_saving->revert(); }
 
 void MyDocument::openImageFile()
 {

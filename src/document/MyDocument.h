@@ -1,15 +1,18 @@
 #pragma once
 
 #include "conversion/ZKConvCoordinate.h"
+#include "document/DocumentArchive.h"
 #include "document/DocumentServices.h"
 #include "document/MenuRules.h"
 #include "geometry/FloatGeometry.h"
 #include "platform/ChangeKind.h"
+#include "platform/DurableFile.h"
 #include "platform/UndoManager.h"
 
 #include <QObject>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 #include <functional>
@@ -25,6 +28,7 @@ class CursorGuide;
 class CurvegrabPrefs;
 class DataSeries;
 class DataTableView;
+class DocumentSaving;
 class DocumentStatus;
 class DocumentWindow;
 class GraphImageView;
@@ -43,11 +47,48 @@ public:
     explicit MyDocument(DocumentServices &services, int number = 1, QObject *parent = nullptr);
     ~MyDocument() override;
 
-    /// Shows the window of a new, empty document.
+    /// Sets the window up and shows it.
     void showWindow();
-    /// Opens the picture file that this document is made from, as soon as the window is on the
-    /// screen: only then its frame is known, which belongs to the window's size.
-    void openPicture(const QUrl &url);
+
+    /// The file that a plain save writes; a picture's document has one before it is written.
+    [[nodiscard]] const QUrl &fileUrl() const { return m_fileUrl; }
+    void setFileUrl(const QUrl &url);
+    /// The state in which this document knows its file; nothing if it never read or wrote it.
+    [[nodiscard]] const std::optional<durablefile::Stamp> &fileStamp() const { return m_fileStamp; }
+
+    /// `loadDataRepresentation:ofType:` takes the content of a document file, or (for any other
+    /// type) notes that the file at fileUrl() is a picture; false if it is neither. The window is
+    /// not touched.
+    [[nodiscard]] bool loadDataRepresentation(const QByteArray &data, const QString &ofType);
+    /// After a document file was refused: what is wrong with it, and what is left of it.
+    [[nodiscard]] const documentarchive::Reading &refusedReading() const { return m_refused; }
+    /// Takes what is left of a damaged document; it is a new one, and modified.
+    void loadRemains(ArchiveDictionary root);
+    /// `dataOfType:error:` gives the content of the document file, whatever the type; nothing if
+    /// there is not enough memory for the picture.
+    [[nodiscard]] std::optional<QByteArray> dataOfType(const QString &type) const;
+    /// Nothing, always: saving goes through dataOfType().
+    [[nodiscard]] std::optional<QByteArray> dataRepresentationOfType(const QString &type) const;
+    /// Restores the window from what was loaded, or begins a new document.
+    void windowControllerDidLoadNib();
+    [[nodiscard]] bool openImageDirect() const { return m_openImageDirect; }
+    [[nodiscard]] const std::optional<ArchiveDictionary> &loadedDataDict() const
+    {
+        return m_loadedDataDict;
+    }
+    /// The root dictionary as a file has it now.
+    [[nodiscard]] ArchiveDictionary rootDictionary() const;
+
+    /// Whether nothing was ever done in this window, so that a file may be opened in it.
+    [[nodiscard]] bool isUntouched() const;
+    /// The document was written to, or just read from, the file at `path`.
+    void wasSavedTo(const QString &path);
+    /// Shows what was loaded from the file again, and forgets the rest.
+    void revertToLoaded();
+    /// Closes the window, after asking about changes; `closed` runs only if it was.
+    void closeThen(std::function<void()> closed);
+    void raise();
+    [[nodiscard]] QStringList recentFiles() const;
 
     [[nodiscard]] DocumentWindow &window() const { return *m_window; }
     [[nodiscard]] GraphImageView &graphView() const { return *m_graphView; }
@@ -66,7 +107,7 @@ public:
 
     /// Moves the change count; the document is modified while it is not zero.
     void updateChangeCount(ChangeKind kind);
-    [[nodiscard]] bool isDocumentEdited() const { return m_changeCount != 0; }
+    [[nodiscard]] bool isDocumentEdited() const { return m_changeCount != 0 || m_savedStateIsGone; }
     [[nodiscard]] QString displayName() const;
 
     /// Axis-setting mode: the first tab is selected; otherwise digitizing.
@@ -113,6 +154,12 @@ public:
 
 public Q_SLOTS:
     void newDocument();
+    void openDocument();
+    void openFiles(const QStringList &paths);
+    void clearRecentFiles();
+    void saveDocument();
+    void saveDocumentAs();
+    void revertDocumentToSaved();
     void openImageFile();
     void saveDataAs();
     void saveSelectionAs();
@@ -160,13 +207,22 @@ public Q_SLOTS:
     void showDigitizeHelp();
     void showHideDataTable();
 
+Q_SIGNALS:
+    /// The content was changed, also by undo.
+    void edited();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void makeComponents();
     void wire();
-    void readOwnPicture();
+    void whenOnScreen(std::function<void()> action);
+    void restore(const ArchiveDictionary &root);
+    void restoreWindow(const ArchiveDictionary &root);
+    void applyFrame(const QRect &frame);
+    [[nodiscard]] QRect frameWithoutDrawer() const;
+    void openOwnPicture();
     void chooseAxisType(int type);
     void runPostponedCommands();
     void drawerDidOpen();
@@ -182,11 +238,18 @@ private:
     int m_number;
     UndoManager m_undoManager;
     int m_changeCount = 0;
+    bool m_savedStateIsGone = false; ///< no undo or redo leads to what the file has
     bool m_isKey = false;
     bool m_closeAgreed = false;
     mutable std::optional<bool> m_pasteboardIsGood; ///< as far as it was looked at
     int m_drawerOpenButtonState = 1;
     QUrl m_fileUrl;
+    std::optional<durablefile::Stamp> m_fileStamp;
+    bool m_openImageDirect = false;
+    bool m_loadsRemains = false;
+    std::optional<ArchiveDictionary> m_loadedDataDict;
+    documentarchive::Reading m_refused;
+    std::vector<std::function<void()>> m_whenOnScreen;
     std::vector<std::pair<int, std::function<void()>>> m_postponed;
     QRect m_userFrame;
 
@@ -202,6 +265,7 @@ private:
     std::unique_ptr<DataSeries> m_dataSeries;
     std::unique_ptr<CursorGuide> m_cursorGuide;
     std::unique_ptr<SeriesExport> m_seriesExport;
+    std::unique_ptr<DocumentSaving> m_saving;
     DocumentMenus *m_menus = nullptr;   // owned by the window
     DocumentStatus *m_status = nullptr; // owned by the window
     ToolPalette *m_tools = nullptr;     // owned by the window

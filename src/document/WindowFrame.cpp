@@ -2,6 +2,18 @@
 
 #include <algorithm>
 
+namespace {
+
+// Far beyond every desktop, and safe to calculate with.
+constexpr float furthest = 1'000'000;
+
+int pixels(float length)
+{
+    return static_cast<int>(std::max(-furthest, std::min(length, furthest)));
+}
+
+} // namespace
+
 namespace windowframe {
 
 FloatSize standardSize(FloatSize pictureView, FloatSize minimum)
@@ -23,6 +35,33 @@ QRect placed(const QRect &frame, QSize size, const QRect &screen)
     if (result.top() < screen.top())
         result.moveTop(screen.top());
     return result;
+}
+
+FloatRect toBottomLeft(const QRect &frame, const QRect &primaryScreen)
+{
+    return {{static_cast<float>(frame.left()),
+             static_cast<float>(primaryScreen.bottom() - frame.bottom())},
+            {static_cast<float>(frame.width()), static_cast<float>(frame.height())}};
+}
+
+QRect fromBottomLeft(const FloatRect &frame, const QRect &primaryScreen)
+{
+    const QSize size(pixels(frame.size.width), pixels(frame.size.height));
+    const int top = primaryScreen.bottom() + 1 - pixels(frame.origin.y) - size.height();
+    return {QPoint(pixels(frame.origin.x), top), size};
+}
+
+QRect restored(const QRect &frame, QSize minimum, const QList<QRect> &screens)
+{
+    const QRect raised(frame.topLeft(), frame.size().expandedTo(minimum));
+    const auto shownOn = [&raised](const QRect &screen) {
+        const QRect shown = raised.intersected(screen);
+        return qint64{shown.width()} * shown.height();
+    };
+    const auto best = std::max_element(
+        screens.begin(), screens.end(),
+        [&shownOn](const QRect &a, const QRect &b) { return shownOn(a) < shownOn(b); });
+    return best == screens.end() ? raised : placed(raised, raised.size(), *best);
 }
 
 } // namespace windowframe

@@ -12,15 +12,6 @@
 namespace {
 
 /// A file named chart.bmp in `folder`.
-QUrl savedPicture(const QTemporaryDir &folder, QSize size)
-{
-    const QString path = folder.filePath(QStringLiteral("chart.bmp"));
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    EXPECT_TRUE(picture.save(path));
-    return QUrl::fromLocalFile(path);
-}
-
 } // namespace
 
 TEST(DocumentWindow, aNewDocumentShowsTheTable)
@@ -144,88 +135,6 @@ TEST(DocumentWindow, theWindowKeepsItsHeightWhenThePageChanges)
     test.digitize();
     QCoreApplication::processEvents();
     EXPECT_EQ(test.ui().actionSelectionTab->height(), before);
-}
-
-TEST(DocumentWindow, closingAModifiedDocumentWithPointsAsks)
-{
-    TestDocument test;
-    test.digitize();
-    test.click(100, 50);
-    EXPECT_FALSE(test.document->window().close());
-    EXPECT_EQ(test.services.sheets->presented().size(), 1U);
-    EXPECT_EQ(test.services.closedDocuments, 0);
-}
-
-TEST(DocumentWindow, anAgreedCloseCloses)
-{
-    TestDocument test;
-    test.digitize();
-    test.click(100, 50);
-    test.document->window().close();
-    test.services.sheets->answerFirst(SheetAnswer::Default);
-    EXPECT_EQ(test.services.closedDocuments, 1);
-}
-
-TEST(DocumentWindow, aCancelledCloseKeepsTheDocument)
-{
-    TestDocument test;
-    test.digitize();
-    test.click(100, 50);
-    test.document->window().close();
-    test.services.sheets->answerFirst(SheetAnswer::Alternate);
-    EXPECT_TRUE(test.document->window().isVisible());
-    EXPECT_EQ(test.document->dataSeries().currentIndex(), 1);
-}
-
-TEST(DocumentWindow, aDocumentWithoutPointsClosesWithoutAsking)
-{
-    TestDocument test;
-    EXPECT_TRUE(test.document->window().close());
-    EXPECT_TRUE(test.services.sheets->presented().empty());
-}
-
-TEST(DocumentWindow, bearsTheNameOfThePictureItIsMadeFrom)
-{
-    const QTemporaryDir folder;
-    const TestDocument test{QSize(0, 0)};
-    test.document->openPicture(savedPicture(folder, {400, 300}));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return test.document->hasImage(); }));
-    EXPECT_EQ(test.document->displayName(), "chart.bmp");
-}
-
-TEST(DocumentWindow, aFileThatGivesNoPictureGivesNoName)
-{
-    const TestDocument test{QSize(0, 0)};
-    test.document->openPicture(QUrl::fromLocalFile(QStringLiteral("/nowhere/chart.png")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !test.services.sheets->presented().empty(); }));
-    EXPECT_EQ(test.document->displayName(), qtTrId("document.title.untitled"));
-}
-
-TEST(DocumentWindow, aLargeFileThatTurnsOutDamagedGivesNoName)
-{
-    const QTemporaryDir folder;
-    const QUrl url = savedPicture(folder, {2500, 1700});
-    QFile file(url.toLocalFile());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.resize(file.size() / 2));
-    file.close();
-    const TestDocument test{QSize(0, 0)};
-    test.document->openPicture(url);
-    EXPECT_EQ(test.document->displayName(), "chart.bmp");
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return !test.services.sheets->presented().empty(); }, 20'000));
-    EXPECT_EQ(test.document->displayName(), qtTrId("document.title.untitled"));
-}
-
-TEST(DocumentWindow, anotherPictureThatCannotBeOpenedLeavesTheName)
-{
-    const QTemporaryDir folder;
-    const TestDocument test{QSize(0, 0)};
-    test.document->openPicture(savedPicture(folder, {400, 300}));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return test.document->hasImage(); }));
-    test.document->graphView().openImageFile(
-        QUrl::fromLocalFile(QStringLiteral("/nowhere/other.png")));
-    EXPECT_EQ(test.document->displayName(), "chart.bmp");
 }
 
 TEST(DocumentWindow, theScaleIsShownWithThreeDigits)

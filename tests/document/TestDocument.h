@@ -3,6 +3,7 @@
 #include "document/DocumentServices.h"
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
+#include "document/RecentFiles.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureScrollArea.h"
 #include "platform/HelpViewer.h"
@@ -42,7 +43,8 @@ class TestServices final : public DocumentServices
 {
 public:
     TestServices()
-        : m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
+        : m_recentFiles(m_folder.filePath(QStringLiteral("state.json")))
+        , m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
         , m_prefs(m_defaults)
     {
         m_prefs.awakeFromNib();
@@ -78,6 +80,8 @@ public:
     }
     void newDocument() override { ++newDocuments; }
     void editPreferences() override { ++preferencesEdits; }
+    void openFiles(const QStringList &paths) override { openedFiles += paths; }
+    RecentFiles &recentFiles() override { return m_recentFiles; }
     void terminate() override { ++terminations; }
     void documentBecameKey(MyDocument &document) override { keyDocument = &document; }
     void documentClosed(MyDocument &) override { ++closedDocuments; }
@@ -95,6 +99,7 @@ public:
     FakePasswordSheets *passwords = nullptr;
     FakeDesktop *desktop = nullptr;
     MyDocument *keyDocument = nullptr;
+    QStringList openedFiles;
     int newDocuments = 0;
     int terminations = 0;
     int preferencesEdits = 0;
@@ -102,6 +107,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    RecentFiles m_recentFiles;
     UserDefaults m_defaults;
     CurvegrabPrefs m_prefs;
 };

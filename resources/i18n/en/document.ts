@@ -340,8 +340,8 @@
 3.  Click the data points, then save or copy the numbers.</translation>
     </message>
     <message id="document.empty.open">
-        <source>&amp;Open Picture…</source>
-        <translation>&amp;Open Picture…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Open…</translation>
     </message>
     <message id="document.picture.ccw.name">
         <source>Turn left</source>
@@ -480,16 +480,16 @@
         <translation>&amp;New Window</translation>
     </message>
     <message id="document.command.open">
-        <source>&amp;Open Picture…</source>
-        <translation>&amp;Open Picture…</translation>
+        <source>&amp;Open…</source>
+        <translation>&amp;Open…</translation>
     </message>
     <message id="document.command.saveAll">
-        <source>&amp;Save Data As…</source>
-        <translation>&amp;Save Data As…</translation>
+        <source>&amp;Export Data…</source>
+        <translation>&amp;Export Data…</translation>
     </message>
     <message id="document.command.saveSelection">
-        <source>Save Se&amp;lection As…</source>
-        <translation>Save Se&amp;lection As…</translation>
+        <source>Export Se&amp;lection…</source>
+        <translation>Export Se&amp;lection…</translation>
     </message>
     <message id="document.command.close">
         <source>&amp;Close Window</source>
@@ -664,18 +664,6 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.title.numbered">
         <source>Untitled %1</source>
         <translation>Untitled %1</translation>
-    </message>
-    <message id="document.close.title">
-        <source>Close this window and drop its points?</source>
-        <translation>Close this window and drop its points?</translation>
-    </message>
-    <message id="document.close.text">
-        <source>The points in this window are lost when it closes, unless you have saved or copied them.</source>
-        <translation>The points in this window are lost when it closes, unless you have saved or copied them.</translation>
-    </message>
-    <message id="document.close.discard">
-        <source>Close Anyway</source>
-        <translation>Close Anyway</translation>
     </message>
     <message id="document.status.open">
         <source>Open, paste or drop a picture to begin.</source>

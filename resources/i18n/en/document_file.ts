@@ -67,5 +67,134 @@
         <source>the whole file</source>
         <translation>the whole file</translation>
     </message>
+    <message id="document.saving">
+        <source>Saving…</source>
+        <translation>Saving…</translation>
+    </message>
+    <message id="document.save.overwriteTitle">
+        <source>Replace “%1”?</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Replace “%1”?</translation>
+    </message>
+    <message id="document.save.existsText">
+        <source>A document of that name is already there, and this one does not come from it.</source>
+        <translation>A document of that name is already there, and this one does not come from it.</translation>
+    </message>
+    <message id="document.save.changedText">
+        <source>Another program has changed this file since you opened or saved it. If you replace it, those changes are lost.</source>
+        <translation>Another program has changed this file since you opened or saved it. If you replace it, those changes are lost.</translation>
+    </message>
+    <message id="document.save.saveAs">
+        <source>Save As…</source>
+        <translation>Save As…</translation>
+    </message>
+    <message id="document.save.overwrite">
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message id="document.save.failedTitle">
+        <source>“%1” could not be saved</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>“%1” could not be saved</translation>
+    </message>
+    <message id="document.save.failedText">
+        <source>%1
+Your work is still open here. What was in the file before is unchanged.</source>
+        <extracomment>%1 is the reason, a sentence.</extracomment>
+        <translation>%1
+Your work is still open here. What was in the file before is unchanged.</translation>
+    </message>
+    <message id="document.save.noMemory">
+        <source>There is not enough memory to save the picture. Close other windows, then try again.</source>
+        <translation>There is not enough memory to save the picture. Close other windows, then try again.</translation>
+    </message>
+    <message id="document.close.title">
+        <source>Save the changes to “%1”?</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Save the changes to “%1”?</translation>
+    </message>
+    <message id="document.close.text">
+        <source>If you do not save, the changes are lost.</source>
+        <translation>If you do not save, the changes are lost.</translation>
+    </message>
+    <message id="document.close.save">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="document.close.dontSave">
+        <source>Don’t Save</source>
+        <translation>Don’t Save</translation>
+    </message>
+    <message id="document.revert.title">
+        <source>Go back to “%1” as it was saved?</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Go back to “%1” as it was saved?</translation>
+    </message>
+    <message id="document.revert.text">
+        <source>Everything that was changed since then is lost, and cannot be undone.</source>
+        <translation>Everything that was changed since then is lost, and cannot be undone.</translation>
+    </message>
+    <message id="document.revert.revert">
+        <source>Revert</source>
+        <translation>Revert</translation>
+    </message>
+    <message id="document.open.failedTitle">
+        <source>“%1” cannot be opened</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>“%1” cannot be opened</translation>
+    </message>
+    <message id="document.open.missing">
+        <source>There is no such file any more. It may have been moved or renamed.</source>
+        <translation>There is no such file any more. It may have been moved or renamed.</translation>
+    </message>
+    <message id="document.open.unknownType">
+        <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>
+        <translation>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</translation>
+    </message>
+    <message id="document.open.damagedTitle">
+        <source>“%1” is damaged</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>“%1” is damaged</translation>
+    </message>
+    <message id="document.open.remainsText">
+        <source>%1
+You can open what is left of it as a new document. The file itself stays as it is.</source>
+        <extracomment>%1 says what is damaged.</extracomment>
+        <translation>%1
+You can open what is left of it as a new document. The file itself stays as it is.</translation>
+    </message>
+    <message id="document.open.remains">
+        <source>Open What Is Left</source>
+        <translation>Open What Is Left</translation>
+    </message>
+    <message id="document.command.openRecent">
+        <source>Open &amp;Recent</source>
+        <translation>Open &amp;Recent</translation>
+    </message>
+    <message id="document.command.openPicture">
+        <source>Open &amp;Picture Here…</source>
+        <translation>Open &amp;Picture Here…</translation>
+    </message>
+    <message id="document.command.save">
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message id="document.command.saveAs">
+        <source>S&amp;ave As…</source>
+        <translation>S&amp;ave As…</translation>
+    </message>
+    <message id="document.command.revert">
+        <source>Re&amp;vert to Saved</source>
+        <translation>Re&amp;vert to Saved</translation>
+    </message>
+    <message id="document.recent.item">
+        <source>%1 — %2</source>
+        <extracomment>A file and its folder</extracomment>
+        <translation>%1 — %2</translation>
+    </message>
+    <message id="document.recent.clear">
+        <source>Clear This List</source>
+        <translation>Clear This List</translation>
+    </message>
 </context>
 </TS>

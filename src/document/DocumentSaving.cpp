@@ -1,0 +1,175 @@
+#include "document/DocumentSaving.h"
+
+#include "document/DocumentServices.h"
+#include "document/DocumentTypes.h"
+#include "document/MyDocument.h"
+#include "imageview/GraphImageView.h"
+#include "platform/DurableFile.h"
+#include "platform/Texts.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStatusBar>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds timeBeforeProgress{500};
+
+QString withName(const char *key, const QString &path)
+{
+    return texts::localized(key).arg(QFileInfo(path).fileName());
+}
+
+} // namespace
+
+DocumentSaving::DocumentSaving(MyDocument &document, const WindowDialogs &dialogs,
+                               QStatusBar &statusBar)
+    : m_document(document)
+    , m_dialogs(dialogs)
+    , m_statusBar(statusBar)
+{
+    m_progressTimer.setSingleShot(true);
+    connect(&m_progressTimer, &QTimer::timeout, this,
+            [this] { m_statusBar.showMessage(texts::localized("document.saving")); });
+}
+
+void DocumentSaving::save(Saved saved)
+{
+    if (m_isBusy)
+        return;
+    const QString path = m_document.fileUrl().toLocalFile();
+    if (path.isEmpty()) {
+        saveAs(std::move(saved));
+        return;
+    }
+    const auto &known = m_document.fileStamp();
+    const auto present = durablefile::stampOf(path);
+    if (!present || present == known)
+        writeTo(path, saved);
+    else
+        askToOverwrite(known ? "document.save.changedText" : "document.save.existsText", path,
+                       saved);
+}
+
+void DocumentSaving::saveAs(Saved saved)
+{
+    if (m_isBusy)
+        return;
+    const QString path = m_document.fileUrl().toLocalFile();
+    const QString proposed = path.isEmpty() ? m_document.displayName() + QLatin1Char('.') +
+                                                  QLatin1String(documenttypes::extension)
+                                            : path;
+    m_dialogs.panels->chooseDocumentToSave(proposed,
+                                           [this, saved = std::move(saved)](const QString &chosen) {
+                                               writeTo(QFileInfo(chosen).absoluteFilePath(), saved);
+                                           });
+}
+
+void DocumentSaving::askToOverwrite(const char *textKey, const QString &path, const Saved &saved)
+{
+    m_dialogs.sheets->present({withName("document.save.overwriteTitle", path),
+                               texts::localized(textKey), texts::localized("document.save.saveAs"),
+                               texts::localized("Cancel"),
+                               texts::localized("document.save.overwrite")},
+                              [this, path, saved](SheetAnswer answer) {
+                                  if (answer == SheetAnswer::Default)
+                                      saveAs(saved);
+                                  else if (answer == SheetAnswer::Other)
+                                      writeTo(path, saved);
+                              });
+}
+
+void DocumentSaving::writeTo(const QString &path, const Saved &saved)
+{
+    m_isBusy = true;
+    m_progressTimer.start(timeBeforeProgress);
+    m_document.graphView().encodePicture([this, path, saved] { encodedFor(path, saved); });
+}
+
+// What is written is the document of this moment, whatever was done while the picture was encoded.
+void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
+{
+    const std::optional<QByteArray> data =
+        m_document.dataOfType(QLatin1String(documenttypes::curvegrabDocument));
+    const std::optional<QString> reason =
+        data ? durablefile::write(path, *data) : texts::localized("document.save.noMemory");
+    m_isBusy = false;
+    m_progressTimer.stop();
+    m_statusBar.clearMessage();
+    if (reason) {
+        refused(path, *reason);
+        return;
+    }
+    m_document.wasSavedTo(path);
+    if (saved)
+        saved();
+}
+
+void DocumentSaving::refused(const QString &path, const QString &reason)
+{
+    m_dialogs.sheets->present({withName("document.save.failedTitle", path),
+                               texts::localized("document.save.failedText").arg(reason),
+                               texts::localized("OK"),
+                               QString(),
+                               {}},
+                              {});
+}
+
+void DocumentSaving::askToSave(Saved agreed)
+{
+    if (m_isAsking)
+        return;
+    m_isAsking = true;
+    m_dialogs.sheets->present(
+        {texts::localized("document.close.title").arg(m_document.displayName()),
+         texts::localized("document.close.text"), texts::localized("document.close.save"),
+         texts::localized("Cancel"), texts::localized("document.close.dontSave")},
+        [this, agreed = std::move(agreed)](SheetAnswer answer) {
+            m_isAsking = false;
+            if (answer == SheetAnswer::Default)
+                save(agreed);
+            else if (answer == SheetAnswer::Other)
+                agreed();
+        });
+}
+
+void DocumentSaving::revert()
+{
+    if (!m_document.fileStamp() || m_isBusy)
+        return;
+    m_dialogs.sheets->present(
+        {withName("document.revert.title", m_document.fileUrl().toLocalFile()),
+         texts::localized("document.revert.text"),
+         texts::localized("document.revert.revert"),
+         texts::localized("Cancel"),
+         {}},
+        [this](SheetAnswer answer) {
+            if (answer == SheetAnswer::Default)
+                reread();
+        });
+}
+
+void DocumentSaving::reread()
+{
+    const QString path = m_document.fileUrl().toLocalFile();
+    QFile file(path);
+    QString reason;
+    if (!file.open(QIODevice::ReadOnly))
+        reason = file.errorString();
+    else if (!m_document.loadDataRepresentation(file.readAll(),
+                                                QLatin1String(documenttypes::curvegrabDocument)))
+        reason = documentarchive::description(m_document.refusedReading().damages);
+    if (!reason.isEmpty()) {
+        m_dialogs.sheets->present({withName("document.open.failedTitle", path),
+                                   reason,
+                                   texts::localized("OK"),
+                                   QString(),
+                                   {}},
+                                  {});
+        return;
+    }
+    m_document.revertToLoaded();
+}

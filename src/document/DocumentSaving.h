@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+
+class MyDocument;
+class QStatusBar;
+struct WindowDialogs;
+
+/// Saves one document, with the questions that belong to it. Nothing blocks: what comes after a
+/// save is handed in, and does not happen if the user cancels or the disk refuses.
+class DocumentSaving : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Saved = std::function<void()>;
+
+    DocumentSaving(MyDocument &document, const WindowDialogs &dialogs, QStatusBar &statusBar);
+
+    /// Writes the document's file, or asks where to if it has none.
+    void save(Saved saved);
+    void saveAs(Saved saved);
+    /// Asks whether changes are to be saved; `agreed` runs after they were, or if they need not be.
+    void askToSave(Saved agreed);
+    /// Asks, and then shows what the file has.
+    void revert();
+
+    /// A picture is still being encoded for a save.
+    [[nodiscard]] bool isBusy() const { return m_isBusy; }
+
+private:
+    void writeTo(const QString &path, const Saved &saved);
+    void encodedFor(const QString &path, const Saved &saved);
+    void refused(const QString &path, const QString &reason);
+    void askToOverwrite(const char *textKey, const QString &path, const Saved &saved);
+    void reread();
+
+    MyDocument &m_document;
+    const WindowDialogs &m_dialogs;
+    QStatusBar &m_statusBar;
+    QTimer m_progressTimer;
+    bool m_isBusy = false;
+    bool m_isAsking = false;
+};

@@ -1,0 +1,311 @@
+// How a document comes from a file and goes into one.
+#include "document/MyDocument.h"
+
+#include "axes/CurrentAxes.h"
+#include "capture/CursorGuide.h"
+#include "capture/DataSeries.h"
+#include "capture/DataTableView.h"
+#include "document/DocumentKeys.h"
+#include "document/DocumentSaving.h"
+#include "document/DocumentTypes.h"
+#include "document/DocumentWindow.h"
+#include "document/RecentFiles.h"
+#include "document/WindowFrame.h"
+#include "imageview/ArchivedPicture.h"
+#include "imageview/GraphImageView.h"
+#include "platform/GeometryText.h"
+#include "ui_MyDocument.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int drawerIsOpen = 0;
+constexpr int drawerIsClosed = 1;
+constexpr QSize newWindowSize{760, 620};
+
+QRect primaryScreen() { return QGuiApplication::primaryScreen()->geometry(); }
+
+QList<QRect> usableScreens()
+{
+    QList<QRect> screens{QGuiApplication::primaryScreen()->availableGeometry()};
+    for (const QScreen *screen : QGuiApplication::screens()) {
+        if (screen != QGuiApplication::primaryScreen())
+            screens.append(screen->availableGeometry());
+    }
+    return screens;
+}
+
+ArchiveValue integerValue(int value) { return {std::int64_t{value}}; }
+
+/// Leaves a picture that cannot be decoded out of `root`; false if there is one.
+bool dropDamagedPicture(ArchiveDictionary &root)
+{
+    const ArchiveDictionary *stored = root.dictionaryForKey(documentkeys::graphImageViewData);
+    if (stored == nullptr)
+        return true;
+    const auto picture =
+        std::dynamic_pointer_cast<const ArchivedPicture>(stored->objectForKey("Original Image"));
+    if (picture == nullptr || picture->picture())
+        return true;
+    ArchiveDictionary view;
+    for (const auto &[key, value] : stored->entries()) {
+        if (key != "Original Image")
+            view.set(key, value);
+    }
+    root.set(documentkeys::graphImageViewData, {view});
+    return false;
+}
+
+} // namespace
+
+void MyDocument::showWindow()
+{
+    m_window->resize(m_window->minimumSizeHint().expandedTo(newWindowSize));
+    if (m_loadedDataDict) {
+        windowControllerDidLoadNib();
+        m_window->show();
+        return;
+    }
+    // The frame that a new window gets, and a picture needs, is known only on the screen.
+    m_window->show();
+    windowControllerDidLoadNib();
+}
+
+void MyDocument::setFileUrl(const QUrl &url)
+{
+    m_fileUrl = url;
+    m_fileStamp.reset();
+    showTitle();
+}
+
+bool MyDocument::loadDataRepresentation(const QByteArray &data, const QString &ofType)
+{
+    if (ofType != QLatin1String(documenttypes::curvegrabDocument)) {
+        m_openImageDirect = documenttypes::isPicture(m_fileUrl.toLocalFile());
+        return m_openImageDirect;
+    }
+    documentarchive::Reading reading = documentarchive::unarchived(data);
+    if (!dropDamagedPicture(reading.root))
+        reading.damages.push_back(
+            {documentarchive::Fault::DamagedPicture, documentkeys::graphImageViewData, 0});
+    if (!reading.isWhole()) {
+        m_refused = std::move(reading);
+        return false;
+    }
+    m_loadedDataDict = std::move(reading.root);
+    return true;
+}
+
+void MyDocument::loadRemains(ArchiveDictionary root)
+{
+    m_loadedDataDict = std::move(root);
+    m_loadsRemains = true;
+}
+
+ArchiveDictionary MyDocument::rootDictionary() const
+{
+    const TableDrawer &drawer = *m_window->ui().dataTableDrawer;
+    const FloatSize drawerSize{static_cast<float>(drawer.contentWidth()),
+                               static_cast<float>(drawer.height())};
+    const FloatRect frame = windowframe::toBottomLeft(frameWithoutDrawer(), primaryScreen());
+    ArchiveDictionary root;
+    root.set(documentkeys::mainWindowFrame, {geometrytext::stringFromRect(frame)});
+    root.set(documentkeys::dataTableSize, {geometrytext::stringFromSize(drawerSize)});
+    root.set(documentkeys::dataTableViewState, integerValue(m_drawerOpenButtonState));
+    root.set(documentkeys::actionTabSelection,
+             integerValue(m_window->ui().actionSelectionTab->indexOfSelectedTab()));
+    root.set(documentkeys::graphImageViewData, {m_graphView->dataForSave()});
+    root.set(documentkeys::dataTableViewData, {m_dataTableView->dataForSave()});
+    root.set(documentkeys::currentAxesData, {m_currentAxes->dataForSave()});
+    root.set(documentkeys::cursorGuideData, {m_cursorGuide->dataForSave()});
+    root.set(documentkeys::dataSeriesData, {m_dataSeries->dataForSave()});
+    return root;
+}
+
+std::optional<QByteArray> MyDocument::dataOfType(const QString &) const
+{
+    const ArchiveDictionary root = rootDictionary();
+    const bool lacksPicture =
+        hasImage() &&
+        root.dictionaryForKey(documentkeys::graphImageViewData)->objectForKey("Original Image") ==
+            nullptr;
+    if (lacksPicture)
+        return std::nullopt;
+    return documentarchive::archivedData(root);
+}
+
+std::optional<QByteArray> MyDocument::dataRepresentationOfType(const QString &) const
+{
+    return std::nullopt;
+}
+
+void MyDocument::windowControllerDidLoadNib()
+{
+    if (m_loadedDataDict) {
+        restore(*m_loadedDataDict);
+        m_loadedDataDict.reset();
+        updateChangeCount(ChangeKind::Cleared);
+        if (std::exchange(m_loadsRemains, false))
+            updateChangeCount(ChangeKind::Done);
+        showsChanged();
+        return;
+    }
+    if (m_openImageDirect)
+        openOwnPicture();
+    if (m_drawerOpenButtonState == drawerIsClosed)
+        showHideDataTable();
+}
+
+// The data series' restoring calls into the cursor guide and the table, and the guide's reads the
+// series: the order is not the file's.
+void MyDocument::restore(const ArchiveDictionary &root)
+{
+    restoreWindow(root);
+    m_graphView->loadFromData(root.dictionaryForKey(documentkeys::graphImageViewData));
+    m_dataTableView->loadFromData(root.dictionaryForKey(documentkeys::dataTableViewData));
+    m_currentAxes->loadFromData(root.dictionaryForKey(documentkeys::currentAxesData));
+    m_cursorGuide->loadFromData(root.dictionaryForKey(documentkeys::cursorGuideData));
+    m_dataSeries->loadFromData(root.dictionaryForKey(documentkeys::dataSeriesData));
+    const int tab = root.intForKey(documentkeys::actionTabSelection);
+    m_window->ui().actionSelectionTab->selectTab(tab);
+}
+
+void MyDocument::restoreWindow(const ArchiveDictionary &root)
+{
+    TableDrawer &drawer = *m_window->ui().dataTableDrawer;
+    drawer.close(); // the stored frame is the one without it
+    const FloatRect frame =
+        geometrytext::rectFromString(root.stringForKey(documentkeys::mainWindowFrame));
+    applyFrame(windowframe::fromBottomLeft(frame, primaryScreen()));
+    const FloatSize size =
+        geometrytext::sizeFromString(root.stringForKey(documentkeys::dataTableSize));
+    drawer.setContentWidth(static_cast<int>(std::min(size.width, 1e6F)));
+    m_drawerOpenButtonState = root.intForKey(documentkeys::dataTableViewState);
+    if (m_drawerOpenButtonState == drawerIsOpen)
+        drawer.open();
+    drawerStateChanged();
+}
+
+// How much of the frame is the desktop's decoration shows only on the screen.
+void MyDocument::applyFrame(const QRect &frame)
+{
+    if (frame.isEmpty()) {
+        m_window->resize(m_window->minimumSize());
+        return;
+    }
+    const auto apply = [this, frame] {
+        const int drawer = m_window->ui().dataTableDrawer->widthInWindow();
+        const QSize decoration = m_window->frameGeometry().size() - m_window->size();
+        const QSize smallest = m_window->minimumSize() - QSize(drawer, 0) + decoration;
+        const QRect fitting = windowframe::restored(frame, smallest, usableScreens());
+        m_window->resize(fitting.size() - decoration + QSize(drawer, 0));
+        m_window->move(fitting.topLeft());
+    };
+    apply();
+    if (!m_window->isVisible())
+        whenOnScreen(apply);
+}
+
+QRect MyDocument::frameWithoutDrawer() const
+{
+    QRect frame = m_window->frameGeometry();
+    if (m_window->isMaximized() || m_window->isFullScreen())
+        frame = m_window->normalGeometry();
+    frame.setWidth(frame.width() - m_window->ui().dataTableDrawer->widthInWindow());
+    return frame;
+}
+
+void MyDocument::whenOnScreen(std::function<void()> action)
+{
+    m_window->winId(); // makes the window of the desktop, whose events are waited for
+    QWindow *onScreen = m_window->windowHandle();
+    if (onScreen->isExposed()) {
+        action();
+        return;
+    }
+    m_whenOnScreen.push_back(std::move(action));
+    onScreen->installEventFilter(this);
+}
+
+bool MyDocument::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
+        watched->removeEventFilter(this);
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                for (const std::function<void()> &action : std::exchange(m_whenOnScreen, {}))
+                    action();
+            },
+            Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MyDocument::openOwnPicture()
+{
+    m_openImageDirect = false;
+    const QUrl picture = m_fileUrl;
+    // The name of the document beside the picture, not written yet.
+    setFileUrl(picture.isLocalFile()
+                   ? QUrl::fromLocalFile(documenttypes::documentPathFor(picture.toLocalFile()))
+                   : QUrl());
+    whenOnScreen([this, picture] { m_graphView->openImageFile(picture); });
+}
+
+bool MyDocument::isUntouched() const
+{
+    return m_fileUrl.isEmpty() && !isDocumentEdited() && !hasImage() && !m_openImageDirect &&
+           !m_undoManager.canUndo() && !m_undoManager.canRedo() &&
+           m_dataSeries->validSeries().empty();
+}
+
+void MyDocument::wasSavedTo(const QString &path)
+{
+    m_fileUrl = QUrl::fromLocalFile(path);
+    m_fileStamp = durablefile::stampOf(path);
+    m_undoManager.closeGroup();
+    updateChangeCount(ChangeKind::Cleared);
+    m_services.recentFiles().add(path);
+    showTitle();
+    showsChanged();
+}
+
+void MyDocument::revertToLoaded()
+{
+    m_undoManager.removeAllActionsWithTarget(m_currentAxes.get());
+    m_undoManager.removeAllActionsWithTarget(m_dataSeries.get());
+    windowControllerDidLoadNib();
+    m_fileStamp = durablefile::stampOf(m_fileUrl.toLocalFile());
+}
+
+void MyDocument::closeThen(std::function<void()> closed)
+{
+    const auto close = [this, closed = std::move(closed)] {
+        m_closeAgreed = true;
+        m_window->close();
+        if (closed)
+            closed();
+    };
+    if (!isDocumentEdited() && !m_saving->isBusy()) {
+        close();
+        return;
+    }
+    raise();
+    m_saving->askToSave(close);
+}
+
+void MyDocument::raise()
+{
+    if (m_window->isMinimized())
+        m_window->showNormal();
+    m_window->raise();
+    m_window->activateWindow();
+}

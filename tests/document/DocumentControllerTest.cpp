@@ -1,0 +1,267 @@
+#include "document/DocumentController.h"
+
+#include "capture/DataSeries.h"
+#include "document/DocumentArchive.h"
+#include "document/DocumentWindow.h"
+#include "document/MyDocument.h"
+#include "document/SampleRoots.h"
+#include "imageview/GraphImageView.h"
+#include "platform/UserDefaults.h"
+#include "prefs/CurvegrabPrefs.h"
+
+#include <QAction>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using sampleroots::Kind;
+
+namespace {
+
+/// The application with its real sheets, in a folder of its own.
+class DocumentControllerTest : public testing::Test
+{
+protected:
+    DocumentControllerTest()
+        : m_defaults(path("settings.json"))
+        , m_prefs(m_defaults)
+        , controller(m_prefs, path("state"))
+    {
+        m_prefs.awakeFromNib();
+    }
+
+    [[nodiscard]] QString path(const char *name) const
+    {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+
+    QString put(const char *name, const QByteArray &bytes)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+
+    QString putDocument(const char *name)
+    {
+        return put(name, documentarchive::archivedData(sampleroots::root(Kind::Parallel)));
+    }
+
+    QString putPicture(const char *name)
+    {
+        QImage picture(400, 300, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        EXPECT_TRUE(picture.save(path(name), "png"));
+        return path(name);
+    }
+
+    [[nodiscard]] MyDocument &document(std::size_t index = 0) const
+    {
+        return *controller.documents().at(index);
+    }
+
+    [[nodiscard]] static QMessageBox *sheetOf(const MyDocument &document)
+    {
+        QMessageBox *found = nullptr;
+        const bool isUp = QTest::qWaitFor([&] {
+            for (auto *box : document.window().findChildren<QMessageBox *>()) {
+                if (box->isVisible())
+                    found = box;
+            }
+            return found != nullptr;
+        });
+        return isUp ? found : nullptr;
+    }
+
+    static void press(QMessageBox *box, const char *textId)
+    {
+        ASSERT_NE(box, nullptr);
+        for (QAbstractButton *button : box->buttons()) {
+            if (button->text() == qtTrId(textId)) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                return;
+            }
+        }
+        ADD_FAILURE() << "no button " << textId;
+    }
+
+private:
+    QTemporaryDir m_folder;
+    UserDefaults m_defaults;
+    CurvegrabPrefs m_prefs;
+
+protected:
+    DocumentController controller;
+};
+
+} // namespace
+
+TEST_F(DocumentControllerTest, startsWithOneEmptyWindow)
+{
+    controller.start({});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(document().isUntouched());
+    EXPECT_EQ(document().drawerOpenButtonState(), 0);
+}
+
+TEST_F(DocumentControllerTest, opensEachFileInAWindowOfItsOwn)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("B.CRVGRAB"), putPicture("c.png")});
+    ASSERT_EQ(controller.documents().size(), 3U);
+    EXPECT_EQ(document(0).dataSeries().maxRows(), 5);
+    EXPECT_FALSE(document(0).isDocumentEdited());
+    EXPECT_EQ(document(1).displayName(), "B.CRVGRAB");
+    EXPECT_EQ(document(2).displayName(), "c.crvgrab");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document(2).hasImage(); }));
+}
+
+TEST_F(DocumentControllerTest, anUntouchedWindowIsUsedForAFile)
+{
+    controller.start({});
+    const MyDocument *empty = &document();
+    controller.openFiles({putDocument("a.crvgrab")});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_EQ(&document(), empty);
+    EXPECT_EQ(document().displayName(), "a.crvgrab");
+    EXPECT_EQ(document().drawerOpenButtonState(), 1);
+    EXPECT_FALSE(document().isDocumentEdited());
+    controller.openFiles({putPicture("c.png")});
+    EXPECT_EQ(controller.documents().size(), 2U);
+}
+
+TEST_F(DocumentControllerTest, anOpenFileIsNotOpenedTwice)
+{
+    const QString file = putDocument("a.crvgrab");
+    ASSERT_TRUE(QFile::link(file, path("link.crvgrab")));
+    controller.start({file, file, path("link.crvgrab")});
+    EXPECT_EQ(controller.documents().size(), 1U);
+}
+
+TEST_F(DocumentControllerTest, whatIsNoDocumentAndNoPictureIsRefused)
+{
+    controller.start({QDir(putPicture("plot.png")).path()});
+    ASSERT_TRUE(QFile::copy(path("plot.png"), path("plot.dat")));
+    controller.openFiles({path("plot.dat")});
+    EXPECT_EQ(controller.documents().size(), 1U);
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.unknownType"));
+}
+
+TEST_F(DocumentControllerTest, aMissingFileIsToldInAnEmptyWindowAndForgotten)
+{
+    controller.recentFiles().add(path("gone.crvgrab"));
+    controller.start({path("gone.crvgrab")});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.missing"));
+    EXPECT_TRUE(controller.recentFiles().paths().isEmpty());
+}
+
+TEST_F(DocumentControllerTest, aDamagedDocumentOffersWhatIsLeft)
+{
+    const QByteArray whole = documentarchive::archivedData(sampleroots::root(Kind::Polar, 200));
+    controller.start({put("cut.crvgrab", whole.left(whole.size() - 1500))});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_FALSE(document().hasImage());
+    press(sheetOf(document()), "document.open.remains");
+    EXPECT_TRUE(document().hasImage());
+    EXPECT_GT(document().dataSeries().maxRows(), 100);
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(document().fileUrl().isEmpty());
+}
+
+TEST_F(DocumentControllerTest, aDocumentWithNothingLeftIsOnlyTold)
+{
+    controller.start({put("text.crvgrab", "hello")});
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.damage.noDocument"));
+    EXPECT_EQ(box->buttons().size(), 1);
+    EXPECT_TRUE(document().isUntouched());
+}
+
+TEST_F(DocumentControllerTest, recentFilesAreOfferedAndCanBeForgotten)
+{
+    const QString file = putDocument("a&b.crvgrab");
+    controller.start({file});
+    controller.newDocument();
+    auto *menu = document(1).window().findChild<QMenu *>(QStringLiteral("recentFilesMenu"));
+    ASSERT_NE(menu, nullptr);
+    Q_EMIT menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 3);
+    EXPECT_TRUE(menu->actions().at(0)->text().startsWith("a&&b.crvgrab"));
+    EXPECT_EQ(menu->actions().at(0)->toolTip(), file);
+    menu->actions().at(2)->trigger();
+    EXPECT_TRUE(controller.recentFiles().paths().isEmpty());
+}
+
+TEST_F(DocumentControllerTest, recentFilesAreKeptApartFromThePreferencesAndBounded)
+{
+    for (int i = 0; i < 15; ++i)
+        controller.recentFiles().add(path(std::to_string(i).c_str()));
+    const RecentFiles next(path("state/state.json"));
+    EXPECT_EQ(next.paths().size(), RecentFiles::most);
+    EXPECT_EQ(next.paths().first(), path("14"));
+    EXPECT_FALSE(QFile::exists(path("settings.json")));
+}
+
+TEST_F(DocumentControllerTest, aDroppedDocumentIsOpened)
+{
+    controller.start({});
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(putDocument("a.crvgrab"))});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&document().window(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&document().window(), &drop);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document().displayName() == "a.crvgrab"; }));
+}
+
+TEST_F(DocumentControllerTest, otherDropsAreNotTheWindows)
+{
+    controller.start({});
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path("a.txt"))});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&document().window(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(DocumentControllerTest, quittingAsksDocumentByDocument)
+{
+    controller.start(
+        {putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
+    document(0).updateChangeCount(ChangeKind::Done);
+    document(2).updateChangeCount(ChangeKind::Done);
+    controller.terminate();
+    EXPECT_EQ(controller.documents().size(), 3U);
+    press(sheetOf(document(0)), "document.close.dontSave");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.documents().size() == 2; }));
+    press(sheetOf(document(1)), "document.close.dontSave");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.documents().empty(); }));
+}
+
+TEST_F(DocumentControllerTest, aCancelledQuestionEndsTheQuitting)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    document(0).updateChangeCount(ChangeKind::Done);
+    controller.terminate();
+    press(sheetOf(document(0)), "Cancel");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(controller.documents().size(), 2U);
+    document(1).window().close();
+    EXPECT_EQ(controller.documents().size(), 1U);
+}

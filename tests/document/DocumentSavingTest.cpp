@@ -1,0 +1,255 @@
+#include "document/TestDocument.h"
+
+#include "capture/DataSeries.h"
+#include "document/SampleRoots.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QKeySequence>
+
+#include <gtest/gtest.h>
+
+using documentarchive::unarchived;
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void putContent(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+/// A document with two points that nobody has saved.
+class DocumentSavingTest : public testing::Test
+{
+protected:
+    DocumentSavingTest()
+    {
+        test.digitize();
+        test.click(120, 100);
+        test.click(200, 150);
+    }
+
+    [[nodiscard]] QString path(const char *name = "chart.crvgrab") const
+    {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+    [[nodiscard]] RecordingSheets &sheets() const { return *test.services.sheets; }
+    [[nodiscard]] const MyDocument &document() const { return *test.document; }
+
+    void saveAs(const QString &where)
+    {
+        test.command("saveDocumentAs");
+        EXPECT_TRUE(test.services.panels->confirm(where));
+    }
+
+    [[nodiscard]] static int pointsIn(const QString &where)
+    {
+        const auto reading = unarchived(contentOf(where));
+        EXPECT_TRUE(reading.isWhole());
+        const ArchiveDictionary *series = reading.root.dictionaryForKey("DataSeries Data");
+        const ArchiveArray *lists =
+            series == nullptr ? nullptr : series->arrayForKey("Data Series");
+        return lists == nullptr
+                   ? -1
+                   : static_cast<int>(std::get<ArchiveArray>(lists->at(0).value).size());
+    }
+
+    TestDocument test;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(DocumentSavingTest, anUntitledDocumentAsksWhere)
+{
+    document().window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&document().window()));
+    QTest::keyClick(&document().window(), Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(test.services.panels->isAsking());
+    EXPECT_EQ(test.services.panels->proposedName(), document().displayName() + ".crvgrab");
+    test.services.panels->confirm(path());
+    EXPECT_EQ(pointsIn(path()), 2);
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_EQ(document().displayName(), "chart.crvgrab");
+    EXPECT_EQ(document().window().windowFilePath(), path());
+    EXPECT_TRUE(document().window().windowTitle().contains("chart.crvgrab[*]"));
+    EXPECT_EQ(document().recentFiles(), QStringList{path()});
+}
+
+TEST_F(DocumentSavingTest, aSavedDocumentIsSavedAgainWithoutAsking)
+{
+    saveAs(path());
+    test.click(300, 250);
+    EXPECT_TRUE(document().window().isWindowModified());
+    test.command("saveDocument");
+    EXPECT_EQ(pointsIn(path()), 3);
+    EXPECT_FALSE(document().window().isWindowModified());
+    EXPECT_TRUE(sheets().presented().empty());
+}
+
+TEST_F(DocumentSavingTest, aPicturesDocumentIsSavedBesideItWithoutAsking)
+{
+    test.document->setFileUrl(QUrl::fromLocalFile(path()));
+    test.command("saveDocument");
+    EXPECT_EQ(pointsIn(path()), 2);
+    EXPECT_TRUE(sheets().presented().empty());
+}
+
+TEST_F(DocumentSavingTest, aPicturesDocumentAsksBeforeItReplacesAnother)
+{
+    putContent(path(), "other work");
+    test.document->setFileUrl(QUrl::fromLocalFile(path()));
+    test.command("saveDocument");
+    ASSERT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(contentOf(path()), "other work");
+    sheets().answerFirst(SheetAnswer::Alternate);
+    EXPECT_EQ(contentOf(path()), "other work");
+    EXPECT_TRUE(document().isDocumentEdited());
+    test.command("saveDocument");
+    sheets().answerFirst(SheetAnswer::Other);
+    EXPECT_EQ(pointsIn(path()), 2);
+}
+
+TEST_F(DocumentSavingTest, aFileChangedBySomeoneElseIsNoticed)
+{
+    saveAs(path());
+    putContent(path(), "someone else's work");
+    test.click(300, 250);
+    test.command("saveDocument");
+    ASSERT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(sheets().presented().back().informativeText, qtTrId("document.save.changedText"));
+    sheets().answerFirst(SheetAnswer::Default);
+    EXPECT_EQ(test.services.panels->proposedName(), path());
+    test.services.panels->confirm(path("mine.crvgrab"));
+    EXPECT_EQ(contentOf(path()), "someone else's work");
+    EXPECT_EQ(pointsIn(path("mine.crvgrab")), 3);
+}
+
+TEST_F(DocumentSavingTest, aVanishedFileIsWrittenAgain)
+{
+    saveAs(path());
+    ASSERT_TRUE(QFile::remove(path()));
+    test.command("saveDocument");
+    EXPECT_EQ(pointsIn(path()), 2);
+}
+
+TEST_F(DocumentSavingTest, aFailedSaveSaysWhyAndKeepsTheDocument)
+{
+    putContent(path("file"), "old");
+    saveAs(path("file/chart.crvgrab"));
+    ASSERT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_TRUE(
+        sheets().presented().back().informativeText.contains(qtTrId("platform.file.folderGone")));
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_EQ(document().dataSeries().maxRows(), 2);
+    EXPECT_TRUE(document().fileUrl().isEmpty());
+    EXPECT_EQ(contentOf(path("file")), "old");
+}
+
+TEST_F(DocumentSavingTest, revertingShowsTheFileAgain)
+{
+    EXPECT_FALSE(test.action("revertDocumentToSaved")->isEnabled());
+    saveAs(path());
+    EXPECT_FALSE(test.action("revertDocumentToSaved")->isEnabled());
+    test.click(300, 250);
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst(SheetAnswer::Alternate);
+    EXPECT_EQ(document().dataSeries().maxRows(), 3);
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst(SheetAnswer::Default);
+    EXPECT_EQ(document().dataSeries().maxRows(), 2);
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_FALSE(test.action("undo")->isEnabled());
+    test.command("saveDocument");
+    EXPECT_TRUE(sheets().waitingCount() == 0);
+}
+
+TEST_F(DocumentSavingTest, revertingToADamagedFileChangesNothing)
+{
+    saveAs(path());
+    test.click(300, 250);
+    putContent(path(), "damaged");
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(document().dataSeries().maxRows(), 3);
+    EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(DocumentSavingTest, closingAModifiedDocumentAsks)
+{
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    sheets().answerFirst(SheetAnswer::Alternate);
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+}
+
+TEST_F(DocumentSavingTest, closingWithoutSavingDropsTheChanges)
+{
+    test.command("performClose");
+    sheets().answerFirst(SheetAnswer::Other);
+    EXPECT_EQ(test.services.closedDocuments, 1);
+}
+
+TEST_F(DocumentSavingTest, closingWithSavingClosesAfterTheSave)
+{
+    saveAs(path());
+    test.click(300, 250);
+    test.document->window().close();
+    sheets().answerFirst(SheetAnswer::Default);
+    EXPECT_EQ(pointsIn(path()), 3);
+    EXPECT_EQ(test.services.closedDocuments, 1);
+}
+
+TEST_F(DocumentSavingTest, closingWithASaveThatFailsKeepsTheWindow)
+{
+    putContent(path("file"), "old");
+    test.document->window().close();
+    sheets().answerFirst(SheetAnswer::Default);
+    test.services.panels->confirm(path("file/chart.crvgrab"));
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    EXPECT_TRUE(test.document->window().isVisible());
+    sheets().answerFirst();
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+}
+
+TEST(DocumentSaving, aDocumentThatIsNotModifiedClosesWithoutAsking)
+{
+    TestDocument test{QSize(0, 0)};
+    EXPECT_TRUE(test.document->window().close());
+    EXPECT_TRUE(test.services.sheets->presented().empty());
+}
+
+TEST(DocumentSaving, aLargePictureIsEncodedOnceAndInTheBackground)
+{
+    TestDocument test(QSize(3000, 2000));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.crvgrab"));
+    test.document->setFileUrl(QUrl::fromLocalFile(path));
+    test.document->saveDocument();
+    EXPECT_FALSE(QFile::exists(path));
+    // What is done meanwhile is in the file too.
+    test.digitize();
+    test.click(120, 100);
+    ASSERT_TRUE(QTest::qWaitFor([&test] { return !test.document->isDocumentEdited(); }, 60'000));
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+    test.click(200, 150);
+    test.document->saveDocument();
+    EXPECT_FALSE(test.document->isDocumentEdited());
+    EXPECT_EQ(test.document->dataSeries().maxRows(), 2);
+}
