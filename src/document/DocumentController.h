@@ -2,6 +2,7 @@
 
 #include "document/DocumentServices.h"
 #include "document/RecentFiles.h"
+#include "document/RecoveryStore.h"
 
 #include <QObject>
 #include <QStringList>
@@ -20,7 +21,7 @@ class DocumentController : public QObject, public DocumentServices
     Q_OBJECT
 
 public:
-    /// Keeps the list of recent files in `stateFolder`.
+    /// Keeps the list of recent files, and unsaved changes, in `stateFolder`.
     DocumentController(CurvegrabPrefs &prefs, const QString &stateFolder,
                        QObject *parent = nullptr);
     ~DocumentController() override;
@@ -28,7 +29,8 @@ public:
     /// What is left between sessions, preferences aside.
     [[nodiscard]] static QString standardStateFolder();
 
-    /// Opens the files that the program is started with; without any, one empty window.
+    /// Opens the files that the program is started with; without any, one empty window. Offers what
+    /// a program that ended without warning left behind.
     void start(const QStringList &paths);
     /// Brings a window to the front; a new one if there is none.
     void reopen();
@@ -53,6 +55,7 @@ public:
     void editPreferences() override;
     void openFiles(const QStringList &paths) override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
+    [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
     void documentClosed(MyDocument &document) override;
@@ -64,6 +67,8 @@ private:
     void readPicture(const QString &path);
     void finishOpening(MyDocument &document);
     void offerRemains(MyDocument &document, const QString &path);
+    void offerRecovered();
+    void bringBack(const QString &key);
     void refuse(const QString &path, const QString &reason);
     [[nodiscard]] MyDocument *documentOf(const QString &path) const;
     /// An untouched document to open a file in, or a new one.
@@ -76,6 +81,7 @@ private:
     CurvegrabPrefs &m_prefs;
     std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
     RecentFiles m_recentFiles;
+    RecoveryStore m_recovery;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;
     std::unique_ptr<SystemPasteboard> m_pasteboard;

@@ -35,6 +35,7 @@ void DocumentController::start(const QStringList &paths)
     openFiles(paths);
     if (m_documents.empty())
         newDocument();
+    offerRecovered();
 }
 
 void DocumentController::reopen()
@@ -105,7 +106,7 @@ void DocumentController::readPicture(const QString &path)
 void DocumentController::finishOpening(MyDocument &document)
 {
     if (document.window().isVisible())
-        document.windowControllerDidLoadNib();
+        document.showLoaded();
     else
         document.showWindow();
     document.raise();
@@ -134,6 +135,54 @@ void DocumentController::offerRemains(MyDocument &document, const QString &path)
                                   document.loadRemains(document.refusedReading().root);
                                   document.windowControllerDidLoadNib();
                               });
+}
+
+void DocumentController::offerRecovered()
+{
+    const QStringList remains = m_recovery.remains();
+    QStringList names;
+    for (const QString &key : remains) {
+        if (const auto document = RecoveryStore::read(key))
+            names.append(document->name);
+        else
+            RecoveryStore::remove(key);
+    }
+    if (names.isEmpty())
+        return;
+    documentForMessages().sheets().present(
+        {texts::localized("document.recovery.title"),
+         texts::localized("document.recovery.text").arg(names.join(QLatin1Char('\n'))),
+         texts::localized("document.recovery.bringBack"),
+         texts::localized("document.recovery.later"),
+         texts::localized("document.recovery.discard")},
+        [this, remains](SheetAnswer answer) {
+            for (const QString &key : remains) {
+                if (answer == SheetAnswer::Default)
+                    bringBack(key);
+                else if (answer == SheetAnswer::Other)
+                    RecoveryStore::remove(key);
+            }
+        });
+}
+
+// What was kept goes only once it is kept anew.
+void DocumentController::bringBack(const QString &key)
+{
+    std::optional<RecoveryStore::Document> recovered = RecoveryStore::read(key);
+    if (!recovered)
+        return;
+    MyDocument *shown = recovered->path.isEmpty() ? nullptr : documentOf(recovered->path);
+    if (shown != nullptr && shown->isDocumentEdited()) {
+        // Newer work on the same file: this becomes a document of its own.
+        shown = nullptr;
+        recovered->path.clear();
+        recovered->fileStamp.reset();
+    }
+    MyDocument &document = shown != nullptr ? *shown : documentForOpening();
+    document.loadRecovered(std::move(*recovered));
+    finishOpening(document);
+    if (document.keepSafeNow())
+        RecoveryStore::remove(key);
 }
 
 void DocumentController::refuse(const QString &path, const QString &reason)

@@ -18,6 +18,7 @@ class MyDocument;
 class NotificationCentre;
 class Pasteboard;
 class RecentFiles;
+class RecoveryStore;
 class QWidget;
 
 /// What a window asks its user with. The panels go before the sheets.
@@ -51,6 +52,8 @@ public:
     /// Opens documents and pictures, each in a window of its own.
     virtual void openFiles(const QStringList &paths) = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
+    /// Where unsaved changes are kept safe from a crash.
+    [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;
     virtual void terminate() = 0;
     virtual void documentBecameKey(MyDocument &document) = 0;
     /// The document's window was closed; the document goes.

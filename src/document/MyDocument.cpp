@@ -5,6 +5,7 @@
 #include "capture/DataSeries.h"
 #include "capture/SeriesExport.h"
 #include "document/ComponentAdapters.h"
+#include "document/DocumentRecovery.h"
 #include "document/DocumentSaving.h"
 #include "document/DocumentStatus.h"
 #include "document/DocumentWindow.h"
@@ -56,6 +57,8 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     m_status = new DocumentStatus(*this);
     m_tools = new ToolPalette(*this);
     m_saving = std::make_unique<DocumentSaving>(*this, m_dialogs, *m_window->ui().statusBar);
+    m_recovery = std::make_unique<DocumentRecovery>(*this, services.recoveryStore(),
+                                                    *m_window->ui().statusBar);
     showTitle();
     showsChanged();
 }
@@ -151,6 +154,8 @@ void MyDocument::updateChangeCount(ChangeKind kind)
         break;
     }
     m_window->setWindowModified(isDocumentEdited());
+    if (m_recovery != nullptr)
+        m_recovery->documentChanged();
     if (kind != ChangeKind::Cleared)
         Q_EMIT edited();
 }
@@ -320,6 +325,7 @@ bool MyDocument::windowShouldClose()
 void MyDocument::windowWillClose()
 {
     m_graphView->windowWillClose();
+    m_recovery->forget();
     if (gInfoPanelController != nullptr)
         gInfoPanelController->updateAllInfoWith(nullptr);
     m_services.documentClosed(*this);

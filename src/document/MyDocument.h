@@ -4,6 +4,7 @@
 #include "document/DocumentArchive.h"
 #include "document/DocumentServices.h"
 #include "document/MenuRules.h"
+#include "document/RecoveryStore.h"
 #include "geometry/FloatGeometry.h"
 #include "platform/ChangeKind.h"
 #include "platform/DurableFile.h"
@@ -28,6 +29,7 @@ class CursorGuide;
 class CurvegrabPrefs;
 class DataSeries;
 class DataTableView;
+class DocumentRecovery;
 class DocumentSaving;
 class DocumentStatus;
 class DocumentWindow;
@@ -79,12 +81,19 @@ public:
     /// The root dictionary as a file has it now.
     [[nodiscard]] ArchiveDictionary rootDictionary() const;
 
+    /// Takes what was kept safe from a crash; it is modified.
+    void loadRecovered(RecoveryStore::Document recovered);
+    /// Keeps unsaved changes safe from a crash without waiting; false if the disk refused.
+    bool keepSafeNow();
+
     /// Whether nothing was ever done in this window, so that a file may be opened in it.
     [[nodiscard]] bool isUntouched() const;
     /// The document was written to, or just read from, the file at `path`.
     void wasSavedTo(const QString &path);
     /// Shows what was loaded from the file again, and forgets the rest.
     void revertToLoaded();
+    /// Shows what was loaded, in a window that may be in use.
+    void showLoaded();
     /// Closes the window, after asking about changes; `closed` runs only if it was.
     void closeThen(std::function<void()> closed);
     void raise();
@@ -266,6 +275,7 @@ private:
     std::unique_ptr<CursorGuide> m_cursorGuide;
     std::unique_ptr<SeriesExport> m_seriesExport;
     std::unique_ptr<DocumentSaving> m_saving;
+    std::unique_ptr<DocumentRecovery> m_recovery;
     DocumentMenus *m_menus = nullptr;   // owned by the window
     DocumentStatus *m_status = nullptr; // owned by the window
     ToolPalette *m_tools = nullptr;     // owned by the window

@@ -6,6 +6,7 @@
 #include "capture/DataSeries.h"
 #include "capture/DataTableView.h"
 #include "document/DocumentKeys.h"
+#include "document/DocumentRecovery.h"
 #include "document/DocumentSaving.h"
 #include "document/DocumentTypes.h"
 #include "document/DocumentWindow.h"
@@ -108,6 +109,16 @@ void MyDocument::loadRemains(ArchiveDictionary root)
     m_loadedDataDict = std::move(root);
     m_loadsRemains = true;
 }
+
+void MyDocument::loadRecovered(RecoveryStore::Document recovered)
+{
+    if (!recovered.path.isEmpty())
+        setFileUrl(QUrl::fromLocalFile(recovered.path));
+    m_fileStamp = recovered.fileStamp;
+    loadRemains(std::move(recovered.root));
+}
+
+bool MyDocument::keepSafeNow() { return m_recovery->keepNow(); }
 
 ArchiveDictionary MyDocument::rootDictionary() const
 {
@@ -278,11 +289,16 @@ void MyDocument::wasSavedTo(const QString &path)
     showsChanged();
 }
 
-void MyDocument::revertToLoaded()
+void MyDocument::showLoaded()
 {
     m_undoManager.removeAllActionsWithTarget(m_currentAxes.get());
     m_undoManager.removeAllActionsWithTarget(m_dataSeries.get());
     windowControllerDidLoadNib();
+}
+
+void MyDocument::revertToLoaded()
+{
+    showLoaded();
     m_fileStamp = durablefile::stampOf(m_fileUrl.toLocalFile());
 }
 

@@ -2,6 +2,7 @@
 
 #include "capture/DataSeries.h"
 #include "document/DocumentArchive.h"
+#include "document/DocumentKeys.h"
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
 #include "document/SampleRoots.h"
@@ -10,10 +11,12 @@
 #include "prefs/CurvegrabPrefs.h"
 
 #include <QAction>
+#include <QDateTime>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -62,6 +65,37 @@ protected:
         picture.fill(Qt::white);
         EXPECT_TRUE(picture.save(path(name), "png"));
         return path(name);
+    }
+
+    /// A document of that name with unsaved changes, left by a program that crashed.
+    void leaveUnsaved(const char *name) const
+    {
+        RecoveryStore crashed(path("state/recovery"));
+        const QString key = crashed.newKey();
+        const ArchiveDictionary root = sampleroots::root(Kind::Quadrangle);
+        const auto picture = std::dynamic_pointer_cast<const ArchivedPicture>(
+            root.dictionaryForKey(documentkeys::graphImageViewData)
+                ->objectForKey("Original Image"));
+        const QString pictureName = QStringLiteral("1-1.picture");
+        ASSERT_FALSE(RecoveryStore::keepPicture(key, *picture, pictureName));
+        ASSERT_FALSE(RecoveryStore::keep(key,
+                                         {root, path(name), QString::fromLatin1(name),
+                                          durablefile::Stamp{1, QDateTime::currentDateTime()}},
+                                         pictureName));
+        ASSERT_TRUE(QDir().mkpath(path("state/recovery/crashed")));
+        for (const QString &file : {key, QFileInfo(key).dir().filePath(pictureName)})
+            ASSERT_TRUE(
+                QFile::copy(file, path("state/recovery/crashed/") + QFileInfo(file).fileName()));
+    }
+
+    [[nodiscard]] int keptDocuments() const
+    {
+        int count = 0;
+        const QDir folder(path("state/recovery"));
+        for (const QString &session : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            count +=
+                static_cast<int>(QDir(folder.filePath(session)).entryList({"*.unsaved"}).size());
+        return count;
     }
 
     [[nodiscard]] MyDocument &document(std::size_t index = 0) const
@@ -264,4 +298,80 @@ TEST_F(DocumentControllerTest, aCancelledQuestionEndsTheQuitting)
     EXPECT_EQ(controller.documents().size(), 2U);
     document(1).window().close();
     EXPECT_EQ(controller.documents().size(), 1U);
+}
+
+TEST_F(DocumentControllerTest, whatACrashLeftIsBroughtBack)
+{
+    leaveUnsaved("chart.crvgrab");
+    controller.start({});
+    press(sheetOf(document()), "document.recovery.bringBack");
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(document().hasImage());
+    EXPECT_EQ(document().displayName(), QStringLiteral("chart.crvgrab"));
+    EXPECT_EQ(document().dataSeries().validSeries().size(), 1U);
+    // It is kept anew, for the next crash.
+    EXPECT_EQ(keptDocuments(), 1);
+}
+
+TEST_F(DocumentControllerTest, whatACrashLeftCanBeDiscarded)
+{
+    leaveUnsaved("chart.crvgrab");
+    controller.start({});
+    press(sheetOf(document()), "document.recovery.discard");
+    EXPECT_TRUE(document().isUntouched());
+    EXPECT_EQ(keptDocuments(), 0);
+}
+
+TEST_F(DocumentControllerTest, whatACrashLeftCanWait)
+{
+    leaveUnsaved("chart.crvgrab");
+    controller.start({});
+    press(sheetOf(document()), "document.recovery.later");
+    EXPECT_TRUE(document().isUntouched());
+    EXPECT_EQ(keptDocuments(), 1);
+}
+
+TEST_F(DocumentControllerTest, aDocumentThatWasOpenedAgainShowsItsUnsavedChanges)
+{
+    const QString path = putDocument("chart.crvgrab");
+    leaveUnsaved("chart.crvgrab");
+    controller.start({path});
+    press(sheetOf(document()), "document.recovery.bringBack");
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_EQ(document().fileUrl().toLocalFile(), path);
+}
+
+TEST_F(DocumentControllerTest, newerWorkOnTheSameFileIsNotReplaced)
+{
+    const QString path = putDocument("chart.crvgrab");
+    leaveUnsaved("chart.crvgrab");
+    controller.start({path});
+    QMessageBox *question = sheetOf(document());
+    document().updateChangeCount(ChangeKind::Done);
+    press(question, "document.recovery.bringBack");
+    ASSERT_EQ(controller.documents().size(), 2U);
+    EXPECT_EQ(document(0).fileUrl().toLocalFile(), path);
+    EXPECT_TRUE(document(1).fileUrl().isEmpty());
+    EXPECT_TRUE(document(1).isDocumentEdited());
+}
+
+TEST_F(DocumentControllerTest, aRecoveredDocumentNoticesThatItsFileChanged)
+{
+    leaveUnsaved("chart.crvgrab");
+    putDocument("chart.crvgrab");
+    controller.start({});
+    press(sheetOf(document()), "document.recovery.bringBack");
+    document().saveDocument();
+    QMessageBox *question = sheetOf(document());
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->informativeText(), qtTrId("document.save.changedText"));
+}
+
+TEST_F(DocumentControllerTest, aStartAfterAnEndInOrderAsksNothing)
+{
+    controller.start({});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(document().window().findChildren<QMessageBox *>().isEmpty());
 }

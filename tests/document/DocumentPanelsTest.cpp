@@ -169,6 +169,7 @@ TEST_F(InfoPanelBesideDocument, showsNoDocumentOnceAWindowIsClosed)
     TestDocument test;
     activate(*test.document);
     const std::string caption = text("axisLabel1");
+    test.markSaved();
     test.document->window().close();
     EXPECT_EQ(text("imageInfo0"), "No document");
     EXPECT_EQ(text("axisInfo0"), "-----");

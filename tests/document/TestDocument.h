@@ -4,6 +4,7 @@
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
 #include "document/RecentFiles.h"
+#include "document/RecoveryStore.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureScrollArea.h"
 #include "platform/HelpViewer.h"
@@ -43,7 +44,8 @@ class TestServices final : public DocumentServices
 {
 public:
     TestServices()
-        : m_recentFiles(m_folder.filePath(QStringLiteral("state.json")))
+        : m_recovery(recoveryFolder())
+        , m_recentFiles(m_folder.filePath(QStringLiteral("state.json")))
         , m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
         , m_prefs(m_defaults)
     {
@@ -82,6 +84,11 @@ public:
     void editPreferences() override { ++preferencesEdits; }
     void openFiles(const QStringList &paths) override { openedFiles += paths; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
+    RecoveryStore &recoveryStore() override { return m_recovery; }
+    [[nodiscard]] QString recoveryFolder() const
+    {
+        return m_folder.filePath(QStringLiteral("recovery"));
+    }
     void terminate() override { ++terminations; }
     void documentBecameKey(MyDocument &document) override { keyDocument = &document; }
     void documentClosed(MyDocument &) override { ++closedDocuments; }
@@ -107,6 +114,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    RecoveryStore m_recovery;
     RecentFiles m_recentFiles;
     UserDefaults m_defaults;
     CurvegrabPrefs m_prefs;

@@ -196,5 +196,39 @@ You can open what is left of it as a new document. The file itself stays as it i
         <source>Clear This List</source>
         <translation>Clear This List</translation>
     </message>
+    <message id="document.recovery.title">
+        <source>Bring back your unsaved work?</source>
+        <translation>Bring back your unsaved work?</translation>
+    </message>
+    <message id="document.recovery.text">
+        <source>Curvegrab X ended before these documents were saved:
+%1
+Their changes were kept.</source>
+        <extracomment>The names of the documents, one a line</extracomment>
+        <translation>Curvegrab X ended before these documents were saved:
+%1
+Their changes were kept.</translation>
+    </message>
+    <message id="document.recovery.bringBack">
+        <source>Bring Back</source>
+        <translation>Bring Back</translation>
+    </message>
+    <message id="document.recovery.later">
+        <source>Ask Later</source>
+        <translation>Ask Later</translation>
+    </message>
+    <message id="document.recovery.discard">
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message id="document.recovery.failed">
+        <source>Unsaved changes are not kept safe from a crash: %1 Save often.</source>
+        <extracomment>The reason, a sentence</extracomment>
+        <translation>Unsaved changes are not kept safe from a crash: %1 Save often.</translation>
+    </message>
+    <message id="document.recovery.noFolder">
+        <source>The folder for them cannot be made.</source>
+        <translation>The folder for them cannot be made.</translation>
+    </message>
 </context>
 </TS>
