@@ -1,6 +1,7 @@
 #include "app/CommandKeys.h"
 #include "app/CommandLine.h"
 #include "app/ConsoleCommands.h"
+#include "app/RunningProgram.h"
 #include "document/ApplicationPanels.h"
 #include "document/DocumentController.h"
 #include "helpbook/HelpBookViewer.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QIcon>
 #include <QTranslator>
 
@@ -23,6 +25,13 @@ QStringList argumentsAfterName(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         arguments += QFile::decodeName(argv[i]);
     return arguments;
+}
+
+QStringList absolute(QStringList paths)
+{
+    for (QString &path : paths)
+        path = QFileInfo(path).absoluteFilePath();
+    return paths;
 }
 
 void introduce(QTranslator &texts)
@@ -85,12 +94,24 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(QStringLiteral("curvegrab"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
 
+    const QString stateFolder = DocumentController::standardStateFolder();
+    RunningProgram running(RunningProgram::nameFor(stateFolder));
+    if (running.handOver(absolute(commandLine.files)))
+        return 0;
+
     UserDefaults defaults(UserDefaults::standardPath());
     CurvegrabPrefs prefs(defaults);
     HelpBookViewer help(defaults, [](const QString &command) {
         return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
     });
-    DocumentController documents(prefs, DocumentController::standardStateFolder());
+    DocumentController documents(prefs, stateFolder);
+    QObject::connect(&running, &RunningProgram::filesGiven, &documents,
+                     [&documents](const QStringList &paths) {
+                         if (paths.isEmpty())
+                             documents.reopen();
+                         else
+                             documents.openFiles(paths);
+                     });
     documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
     documents.start(commandLine.files);
