@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -18,7 +20,6 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr int variationsPerFile = 500;
 constexpr int randomInputs = 5000;
 constexpr std::size_t longestRandomInput = 400;
 
@@ -26,6 +27,13 @@ Bytes contentOf(const std::filesystem::path &path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// CURVEGRAB_VARIATIONS asks for more of them.
+int variationsPerFile()
+{
+    const char *wanted = std::getenv("CURVEGRAB_VARIATIONS");
+    return std::max(500, wanted == nullptr ? 0 : std::atoi(wanted));
 }
 
 std::vector<Bytes> corpus()
@@ -51,21 +59,44 @@ std::uint8_t randomByte(std::mt19937_64 &random)
     return static_cast<std::uint8_t>(dice(random, 256));
 }
 
-/// `input` with up to four bytes changed, put in or taken out, and sometimes cut.
+/// Puts a copy of a piece somewhere, or makes two neighbouring pieces change their places.
+void movePiece(Bytes &input, std::mt19937_64 &random)
+{
+    std::array<std::size_t, 3> places{};
+    for (std::size_t &place : places)
+        place = dice(random, input.size() + 1);
+    std::sort(places.begin(), places.end());
+    const auto at = [&input](std::size_t place) {
+        return input.begin() + static_cast<std::ptrdiff_t>(place);
+    };
+    if (dice(random, 2) == 0) {
+        std::rotate(at(places[0]), at(places[1]), at(places[2]));
+        return;
+    }
+    const Bytes piece(at(places[0]), at(places[1]));
+    input.insert(at(places[2]), piece.begin(), piece.end());
+}
+
+/// `input` with up to four bits or bytes changed, put in or taken out, and sometimes with a piece
+/// repeated or moved, or cut.
 Bytes varied(Bytes input, std::mt19937_64 &random)
 {
     const std::size_t changes = 1 + dice(random, 4);
     for (std::size_t i = 0; i < changes; ++i) {
         const auto place =
             input.begin() + static_cast<std::ptrdiff_t>(dice(random, input.size() + 1));
-        const std::size_t kind = dice(random, 3);
+        const std::size_t kind = dice(random, 4);
         if (kind == 0 || place == input.end())
             input.insert(place, randomByte(random));
         else if (kind == 1)
             *place = randomByte(random);
+        else if (kind == 2)
+            *place = static_cast<std::uint8_t>(*place ^ (1U << dice(random, 8)));
         else
             input.erase(place);
     }
+    if (dice(random, 4) == 0)
+        movePiece(input, random);
     if (dice(random, 8) == 0)
         input.resize(dice(random, input.size() + 1));
     return input;
@@ -92,8 +123,9 @@ TEST(CorpusReplay, keptInputsCutAnywhereAreSurvived)
 TEST(CorpusReplay, variationsOfKeptInputsAreSurvived)
 {
     std::mt19937_64 random(21);
+    const int count = variationsPerFile();
     for (const Bytes &input : corpus()) {
-        for (int i = 0; i < variationsPerFile; ++i)
+        for (int i = 0; i < count; ++i)
             run(varied(input, random));
     }
 }
