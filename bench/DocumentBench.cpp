@@ -3,17 +3,22 @@
 #include "capture/DataSeries.h"
 #include "capture/SeriesArchive.h"
 #include "conversion/ZKConvCoordinateAffine.h"
+#include "document/DocumentTypes.h"
+#include "platform/DurableFile.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 #include <benchmark/benchmark.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <random>
 
 // How quickly a whole document answers with ten series of ten thousand points over a picture of
-// 100 megapixels, on a clip of about 1600 x 1000 points.
+// 100 megapixels, on a clip of about 1600 x 1000 points; and how quickly one of 12 megapixels is
+// saved.
 namespace {
 
 constexpr int pointsPerSeries = 10'000;
@@ -135,6 +140,56 @@ void zoomStep(benchmark::State &state)
     }
 }
 
+/// A scan of 12 megapixels, whose noise makes it as hard to encode as scans are.
+QImage scan()
+{
+    QImage picture(4000, 3000, QImage::Format_RGB32);
+    std::mt19937 random(7);
+    for (int y = 0; y < picture.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const int light = 240 + static_cast<int>(random() % 12);
+            line[x] = (x + y) % 400 < 4 ? qRgb(20, 40, 90) : qRgb(light, light, light);
+        }
+    }
+    return picture;
+}
+
+void saveTo(const QTemporaryDir &folder, const MyDocument &document)
+{
+    const auto data = document.dataOfType(QLatin1String(documenttypes::curvegrabDocument));
+    if (!data || durablefile::write(folder.filePath(QStringLiteral("scan.crvgrab")), *data))
+        std::abort();
+}
+
+void firstSave(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QImage picture = scan();
+    for (auto step : state) {
+        state.PauseTiming();
+        TestDocument test(QSize(0, 0));
+        test.document->graphView().replaceImageWithImageRep(picture);
+        state.ResumeTiming();
+        saveTo(folder, *test.document);
+    }
+}
+
+void saveAfterAPoint(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    TestDocument test(QSize(0, 0));
+    test.document->graphView().replaceImageWithImageRep(scan());
+    saveTo(folder, *test.document);
+    test.digitize();
+    int x = 0;
+    for (auto step : state) {
+        x = (x + 7) % 300;
+        test.click(10 + x, 50);
+        saveTo(folder, *test.document);
+    }
+}
+
 void allCurves(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->ArgNames({"random", "mode"})
@@ -158,6 +213,8 @@ BENCHMARK(hoverTick)->Apply(allCurves);
 BENCHMARK(hoverFrame)->Apply(allCurves);
 BENCHMARK(scrollByAWheelClick)->Apply(chartsAlone);
 BENCHMARK(zoomStep)->Apply(chartsAlone);
+BENCHMARK(firstSave)->Unit(benchmark::kMillisecond);
+BENCHMARK(saveAfterAPoint)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
