@@ -1,8 +1,8 @@
 #include "capture/SeriesExport.h"
 
 #include "SeriesFixture.h"
-#include "platform/FilePanels.h"
 #include "platform/Texts.h"
+#include "support/FakeFilePanels.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,28 +15,6 @@
 #include <sys/resource.h>
 
 namespace {
-
-struct SaveQuestion
-{
-    QString message;
-    QString proposedName;
-    std::function<void(const QString &)> chosen;
-};
-
-class RecordingPanels final : public FilePanels
-{
-public:
-    void chooseTextFileToSave(const QString &message, const QString &proposedName,
-                              std::function<void(const QString &)> chosen) override
-    {
-        questions.push_back({message, proposedName, std::move(chosen)});
-    }
-    void choosePictureToOpen(const QStringList & /*suffixes*/,
-                             std::function<void(const QString &)> /*chosen*/) override
-    {}
-
-    std::vector<SaveQuestion> questions;
-};
 
 /// A disk on which no file grows beyond a few bytes.
 class FullDisk
@@ -84,7 +62,7 @@ protected:
     [[nodiscard]] QString path(const QString &name) const { return folder.filePath(name); }
 
     QTemporaryDir folder;
-    RecordingPanels panels;
+    FakeFilePanels panels;
     QString displayName = QStringLiteral("Chart.crvgrab");
     SeriesExport dataExport{{series, panels, document.messages, prefs},
                             [this] { return displayName; }};
@@ -94,8 +72,8 @@ TEST_F(SeriesExportFixture, savingAllAsksWithTheMessageForAll)
 {
     fill({0});
     dataExport.saveDataAs();
-    ASSERT_EQ(panels.questions.size(), 1U);
-    EXPECT_EQ(panels.questions[0].message, texts::localized("SaveAllMessage"));
+    ASSERT_EQ(panels.saveCount(), 1);
+    EXPECT_EQ(panels.message(), texts::localized("SaveAllMessage"));
 }
 
 TEST_F(SeriesExportFixture, savingTheSelectionAsksWithTheMessageForTheSelection)
@@ -103,15 +81,15 @@ TEST_F(SeriesExportFixture, savingTheSelectionAsksWithTheMessageForTheSelection)
     fill({0});
     table.selection = {0};
     dataExport.saveSelectionAs();
-    ASSERT_EQ(panels.questions.size(), 1U);
-    EXPECT_EQ(panels.questions[0].message, texts::localized("SaveSelectionMessage"));
+    ASSERT_EQ(panels.saveCount(), 1);
+    EXPECT_EQ(panels.message(), texts::localized("SaveSelectionMessage"));
 }
 
 TEST_F(SeriesExportFixture, savingAllTakesEverySeriesThatHoldsPoints)
 {
     fill({1, 4});
     dataExport.saveDataAs();
-    panels.questions.at(0).chosen(path(QStringLiteral("all.txt")));
+    panels.confirm(path(QStringLiteral("all.txt")));
     EXPECT_EQ(contentOf(path(QStringLiteral("all.txt"))), QByteArray("1\t1\t4\t4\n"));
     EXPECT_TRUE(document.messages.shown.empty());
 }
@@ -121,7 +99,7 @@ TEST_F(SeriesExportFixture, savingTheSelectionTakesTheSelectedSeries)
     fill({1, 4});
     table.selection = {4};
     dataExport.saveSelectionAs();
-    panels.questions.at(0).chosen(path(QStringLiteral("some.txt")));
+    panels.confirm(path(QStringLiteral("some.txt")));
     EXPECT_EQ(contentOf(path(QStringLiteral("some.txt"))), QByteArray("4\t4\n"));
 }
 
@@ -131,7 +109,7 @@ TEST_F(SeriesExportFixture, theTitleLineFollowsThePreferenceForSaving)
     prefs.copyTitle = false;
     fill({0});
     dataExport.saveDataAs();
-    panels.questions.at(0).chosen(path(QStringLiteral("titled.txt")));
+    panels.confirm(path(QStringLiteral("titled.txt")));
     EXPECT_EQ(contentOf(path(QStringLiteral("titled.txt"))),
               QByteArray("Series_01_x\tSeries_01_y\n0\t0\n"));
 }
@@ -140,7 +118,7 @@ TEST_F(SeriesExportFixture, withoutPointsSavingAllDoesNothing)
 {
     prefs.saveTitle = true;
     dataExport.saveDataAs();
-    EXPECT_TRUE(panels.questions.empty());
+    EXPECT_EQ(panels.saveCount(), 0);
     EXPECT_TRUE(document.messages.shown.empty());
 }
 
@@ -148,7 +126,7 @@ TEST_F(SeriesExportFixture, withoutSelectionSavingTheSelectionDoesNothing)
 {
     fill({0});
     dataExport.saveSelectionAs();
-    EXPECT_TRUE(panels.questions.empty());
+    EXPECT_EQ(panels.saveCount(), 0);
     EXPECT_TRUE(document.messages.shown.empty());
 }
 
@@ -157,7 +135,7 @@ TEST_F(SeriesExportFixture, theTextIsTheOneOfTheMomentOfAsking)
     fill({0});
     dataExport.saveDataAs();
     fill({0, 1});
-    panels.questions.at(0).chosen(path(QStringLiteral("held.txt")));
+    panels.confirm(path(QStringLiteral("held.txt")));
     EXPECT_EQ(contentOf(path(QStringLiteral("held.txt"))), QByteArray("0\t0\n"));
 }
 
@@ -166,7 +144,7 @@ TEST_F(SeriesExportFixture, savingDoesNotMarkTheDocument)
     fill({0});
     const int before = document.changeCount;
     dataExport.saveDataAs();
-    panels.questions.at(0).chosen(path(QStringLiteral("clean.txt")));
+    panels.confirm(path(QStringLiteral("clean.txt")));
     EXPECT_EQ(document.changeCount, before);
 }
 
@@ -183,7 +161,7 @@ TEST_F(SeriesExportFixture, theProposedNameHasTheExtensionTxt)
     for (const auto &[shown, proposed] : names) {
         displayName = shown;
         dataExport.saveDataAs();
-        EXPECT_EQ(panels.questions.back().proposedName, proposed);
+        EXPECT_EQ(panels.proposedName(), proposed);
     }
 }
 

@@ -174,7 +174,7 @@ std::vector<std::vector<double>> ProgramUnderTest::savedData()
 {
     const QString path = m_folder.filePath("data.txt");
     const QByteArray mainWindow = activeWindow();
-    key(QStringLiteral("ctrl+s"));
+    key(QStringLiteral("ctrl+e"));
     if (!QTest::qWaitFor([&mainWindow] { return activeWindow() != mainWindow; }, patience))
         return {};
     type(path);
