@@ -23,7 +23,7 @@ std::optional<QStringList> pathsIn(const QByteArray &line)
         return std::nullopt;
     QStringList paths;
     const QJsonArray entries = request.array();
-    for (const QJsonValue &path : entries) {
+    for (const auto &path : entries) {
         if (!path.isString() || !QDir::isAbsolutePath(path.toString()))
             return std::nullopt;
         paths.append(path.toString());

@@ -33,7 +33,7 @@ QStringList RecentFiles::paths() const
 {
     QStringList list;
     const QJsonArray stored = m_state.objectForKey(key).value_or(QJsonValue()).toArray();
-    for (const QJsonValue &path : stored) {
+    for (const auto &path : stored) {
         if (path.isString() && list.size() < most)
             list.append(path.toString());
     }
