@@ -477,7 +477,7 @@ void MyDocument::about()
     m_dialogs.sheets->present(
         {texts::localized("document.about.title"),
          texts::localized("document.about.text").arg(QCoreApplication::applicationVersion()),
-         texts::localized("OK"), QString()},
+         texts::localized("OK"), QString(), QString(), true},
         {});
 }
 

@@ -20,11 +20,18 @@ void makeTitleBold(QMessageBox &box)
     title->setFont(font);
 }
 
+QMessageBox::Icon iconOf(const Sheet &sheet)
+{
+    if (sheet.isInformation)
+        return QMessageBox::Information;
+    return sheet.alternateButton.isEmpty() ? QMessageBox::Warning : QMessageBox::Question;
+}
+
 QDialog *makeBox(const Sheet &sheet, QWidget *window)
 {
     auto *const box = new QMessageBox(window);
     const bool isQuestion = !sheet.alternateButton.isEmpty();
-    box->setIcon(isQuestion ? QMessageBox::Question : QMessageBox::Warning);
+    box->setIcon(iconOf(sheet));
     box->setTextFormat(Qt::PlainText);
     box->setText(sheet.message);
     box->setInformativeText(sheet.informativeText);

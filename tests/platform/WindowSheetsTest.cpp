@@ -271,3 +271,19 @@ TEST_F(WindowSheetsTest, otherDialogsWaitInTheSameQueue)
     EXPECT_EQ(result, QDialog::Accepted);
     EXPECT_FALSE(m_sheets->isShowing());
 }
+
+TEST_F(WindowSheetsTest, aMessageOfTroubleBearsAWarning)
+{
+    m_sheets->present(message(QStringLiteral("Trouble")), {});
+    ASSERT_TRUE(box());
+    EXPECT_EQ(box()->icon(), QMessageBox::Warning);
+}
+
+TEST_F(WindowSheetsTest, anInformationBearsNoWarning)
+{
+    Sheet news = message(QStringLiteral("News"));
+    news.isInformation = true;
+    m_sheets->present(news, {});
+    ASSERT_TRUE(box());
+    EXPECT_EQ(box()->icon(), QMessageBox::Information);
+}
