@@ -5,10 +5,12 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QtEndian>
 
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -53,6 +55,25 @@ FloatSize sizeOf(QSize pixels, const QString &told)
     return agrees ? *size : pixelSize;
 }
 
+/// Whether the PNG file's chunks are as long as they say, up to the last one. The decoder makes
+/// room for a chunk before it looks whether it is there.
+bool chunksAreThere(const std::vector<std::byte> &bytes)
+{
+    constexpr std::size_t signature = 8;
+    constexpr std::size_t aroundContent = 12; // length and type before it, checksum after it
+    std::size_t position = signature;
+    while (position + aroundContent <= bytes.size()) {
+        const auto *head = reinterpret_cast<const char *>(bytes.data()) + position;
+        const std::size_t length = qFromBigEndian<quint32>(head);
+        if (length > bytes.size() - position - aroundContent)
+            return false;
+        if (std::string_view(head + 4, 4) == "IEND")
+            return true;
+        position += aroundContent + length;
+    }
+    return false;
+}
+
 /// The bytes without a copy; `bytes` outlives them.
 QByteArray rawBytes(const std::vector<std::byte> &bytes)
 {
@@ -95,6 +116,8 @@ void ArchivedPicture::encodeWithCoder(SequentialEncoder &coder) const
 
 std::optional<FloatSize> ArchivedPicture::size() const
 {
+    if (!chunksAreThere(*m_bytes))
+        return {};
     QByteArray bytes = rawBytes(*m_bytes);
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "png");
@@ -113,6 +136,8 @@ std::optional<Picture> ArchivedPicture::picture() const
 
 std::optional<Picture> ArchivedPicture::decoded() const
 {
+    if (!chunksAreThere(*m_bytes))
+        return {};
     QByteArray bytes = rawBytes(*m_bytes);
     QBuffer buffer(&bytes);
     QImageReader::setAllocationLimit(0);

@@ -81,6 +81,16 @@ TEST(ArchivedPicture, cutBytesGiveNoPicture)
     }
 }
 
+TEST(ArchivedPicture, aChunkThatIsShorterThanItSaysGivesNoPicture)
+{
+    std::vector<std::byte> bytes = *bytesOf(*ArchivedPicture::archived(sample(40, 30)));
+    constexpr std::size_t secondChunk = 8 + 25; // behind the signature and the header
+    bytes.at(secondChunk) = std::byte{0x20};    // half a gigabyte
+    const ArchivedPicture damaged(std::make_shared<const std::vector<std::byte>>(bytes));
+    EXPECT_FALSE(damaged.size());
+    EXPECT_FALSE(damaged.picture());
+}
+
 TEST(ArchivedPicture, anotherKindOfFileGivesNoPicture)
 {
     const std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>";
