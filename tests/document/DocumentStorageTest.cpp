@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using documentarchive::archivedData;
 using sampleroots::Kind;
 
@@ -323,4 +325,42 @@ TEST(DocumentStorage, whatWasUndoneBeforeASaveAndThenReplacedIsAChange)
     test.document->undo();
     test.click(200, 150);
     EXPECT_TRUE(test.document->isDocumentEdited());
+}
+
+namespace {
+
+/// `data` with a few bits flipped anywhere.
+QByteArray withFlippedBits(QByteArray data, std::mt19937 &random)
+{
+    const std::size_t flips = 1 + random() % 3;
+    for (std::size_t i = 0; i < flips; ++i) {
+        char &byte = data[static_cast<qsizetype>(random() % static_cast<std::size_t>(data.size()))];
+        byte = static_cast<char>(byte ^ (1 << random() % 8));
+    }
+    return data;
+}
+
+} // namespace
+
+TEST(DocumentStorage, whatIsReadFromDamagedBytesIsShownAndSavedForGood)
+{
+    std::mt19937 random(11);
+    const QByteArray whole = archivedData(sampleroots::root(Kind::Quadrangle));
+    int shown = 0;
+    for (int i = 0; i < 120; ++i) {
+        TestServices services;
+        MyDocument document(services);
+        if (!document.loadDataRepresentation(withFlippedBits(whole, random), documentType))
+            continue;
+        ++shown;
+        document.showWindow();
+        const QByteArray saved = *document.dataOfType(documentType);
+        ASSERT_TRUE(document.loadDataRepresentation(saved, documentType)) << i;
+        document.revertToLoaded();
+        const QByteArray savedAgain = *document.dataOfType(documentType);
+        ASSERT_TRUE(document.loadDataRepresentation(savedAgain, documentType)) << i;
+        document.revertToLoaded();
+        EXPECT_EQ(*document.dataOfType(documentType), savedAgain) << i;
+    }
+    EXPECT_GT(shown, 10);
 }
