@@ -11,8 +11,8 @@ struct Sheet
     QString informativeText; ///< the explanation below it
     QString defaultButton;   ///< the button that Return presses
     QString alternateButton; ///< the button that Escape presses; empty: there is none
-    QString otherButton{    bool isInformation = false; ///< nothing is wrong and nothing is asked
-};   ///< a third way, often one that loses something; empty: there is none
+    QString otherButton{};   ///< a third way, often one that loses something; empty: there is none
+    bool isInformation = false; ///< nothing is wrong and nothing is asked
 };
 
 enum class SheetAnswer { Default, Alternate, Other };
