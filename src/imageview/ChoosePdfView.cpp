@@ -109,14 +109,19 @@ void ChoosePdfView::mouseDoubleClickEvent(QMouseEvent *event)
         Q_EMIT pageChosen();
 }
 
-// Every other click of a quick series comes as a double click: their number is counted here.
+// Every other click of a quick series in one place comes as a double click: their number is
+// counted here.
 void ChoosePdfView::countClick(const QMouseEvent &event)
 {
-    const auto interval =
-        static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    const bool isQuick = event.timestamp() - m_lastClick < interval;
-    m_clickCount = isQuick ? m_clickCount + 1 : 1;
+    const QStyleHints &hints = *QGuiApplication::styleHints();
+    const bool isQuick =
+        event.timestamp() - m_lastClick < static_cast<quint64>(hints.mouseDoubleClickInterval());
+    const QPoint place = event.position().toPoint();
+    const bool isNear =
+        (place - m_lastPlace).manhattanLength() < 2 * hints.mouseDoubleClickDistance();
+    m_clickCount = isQuick && isNear ? m_clickCount + 1 : 1;
     if (event.type() == QEvent::MouseButtonDblClick && m_clickCount < 2)
         m_clickCount = 2;
     m_lastClick = event.timestamp();
+    m_lastPlace = place;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 #include <QWidget>
 
 /// The preview in the page panel. The wheel turns its pages, a double click chooses the one shown.
@@ -44,4 +45,5 @@ private:
     QString m_note;
     int m_clickCount = 0;
     quint64 m_lastClick = 0; ///< milliseconds
+    QPoint m_lastPlace;      ///< of that click, in points
 };

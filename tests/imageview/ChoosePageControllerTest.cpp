@@ -4,6 +4,7 @@
 #include "imageview/PageSource.h"
 #include "ui_ChoosePagePanel.h"
 
+#include <QPointF>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -292,18 +293,46 @@ TEST_F(ChoosePageControllerTest, aDoubleClickChoosesThePage)
     EXPECT_EQ(document->readPage, 6);
 }
 
-TEST_F(ChoosePageControllerTest, fourQuickClicksAreOneDoubleClick)
+namespace {
+
+struct QuickClick
+{
+    QEvent::Type type = QEvent::MouseButtonPress;
+    QPointF place;
+};
+
+/// How often clicks 50 milliseconds apart choose the page.
+int choicesOf(const std::vector<QuickClick> &clicks)
 {
     ChoosePdfView alone;
     const QSignalSpy chosen(&alone, &ChoosePdfView::pageChosen);
     quint64 time = 1'000'000;
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick,
-                                    QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-        QMouseEvent event(type, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    for (const QuickClick &click : clicks) {
+        QMouseEvent event(click.type, click.place, click.place, Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
         event.setTimestamp(time += 50);
         QCoreApplication::sendEvent(&alone, &event);
     }
-    EXPECT_EQ(chosen.count(), 1);
+    return static_cast<int>(chosen.count());
+}
+
+} // namespace
+
+TEST(ChoosePdfView, fourQuickClicksAreOneDoubleClick)
+{
+    EXPECT_EQ(choicesOf({{QEvent::MouseButtonPress, {5, 5}},
+                         {QEvent::MouseButtonDblClick, {5, 5}},
+                         {QEvent::MouseButtonPress, {5, 5}},
+                         {QEvent::MouseButtonDblClick, {5, 5}}}),
+              1);
+}
+
+TEST(ChoosePdfView, aDoubleClickAfterAQuickClickElsewhereCounts)
+{
+    EXPECT_EQ(choicesOf({{QEvent::MouseButtonPress, {5, 5}},
+                         {QEvent::MouseButtonPress, {90, 90}},
+                         {QEvent::MouseButtonDblClick, {91, 90}}}),
+              1);
 }
 
 TEST_F(ChoosePageControllerTest, pagesTurnAtOnceAndTheirPicturesFollow)

@@ -155,6 +155,17 @@ TEST_F(ZKPdfDocumentTest, paperIsOpaqueWhite)
               white);
 }
 
+TEST_F(ZKPdfDocumentTest, whatShinesThroughShowsThePaper)
+{
+    const auto picture =
+        documentOf(pdffiles::withPage("/MediaBox [0 0 20 10] "
+                                      "/Resources << /ExtGState << /Half << /ca 0.5 >> >> >>",
+                                      "/Half gs 0 0 20 10 re f"))
+            ->getImageOfPage(1);
+    ASSERT_TRUE(picture);
+    EXPECT_NEAR(picture->pixels().pixelColor(10, 5).red(), 128, 2);
+}
+
 TEST_F(ZKPdfDocumentTest, letterPaperAtScaleFourIs2448By3168)
 {
     const auto picture = opened("letter-1.pdf")->getImageOfPage(1, 4);

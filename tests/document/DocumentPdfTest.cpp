@@ -1,0 +1,44 @@
+#include "document/TestDocument.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+// A PDF file of several pages in a document's window.
+namespace {
+
+QUrl fileOfTwoPages(const QTemporaryDir &folder)
+{
+    const QString path = folder.filePath(QStringLiteral("two.pdf"));
+    QPdfWriter writer(path);
+    QPainter painter(&writer);
+    painter.drawLine(0, 0, 1000, 1000);
+    writer.newPage();
+    painter.drawLine(0, 1000, 1000, 0);
+    painter.end();
+    return QUrl::fromLocalFile(path);
+}
+
+} // namespace
+
+TEST(DocumentPdf, choosingAPageTakesTheKeyboardFromTheDocumentAndGivesItBack)
+{
+    const QTemporaryDir folder;
+    const TestDocument test;
+    test.document->window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&test.document->window()));
+    ASSERT_TRUE(test.document->isKey());
+    test.document->graphView().openImageFile(fileOfTwoPages(folder));
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+    QWidget *const panel = QApplication::activeModalWidget();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(panel));
+    EXPECT_FALSE(test.document->isKey());
+    EXPECT_FALSE(test.document->graphView().mouseCheckTimer().isActive());
+    QTest::keyClick(panel, Qt::Key_Escape);
+    test.document->window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&test.document->window()));
+    EXPECT_TRUE(test.document->isKey());
+}
