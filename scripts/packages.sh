@@ -10,7 +10,10 @@ packages_to_run=(
 )
 
 # To run the tests.
-packages_to_test=(libgtest-dev xvfb xauth xdotool openbox groff-base)
+packages_to_test=(
+    libgtest-dev xvfb xauth xdotool openbox groff-base
+    desktop-file-utils shared-mime-info appstream
+)
 
 # To run everything: sanitizers, formatting, lint and a decimal-comma locale.
 packages_to_test_all=(clang-format clang-tidy locales libbenchmark-dev)

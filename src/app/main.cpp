@@ -91,7 +91,7 @@ int main(int argc, char **argv)
     QTranslator texts;
     introduce(texts);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Curvegrab X"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("curvegrab"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(CURVEGRAB_DESKTOP_ID));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
 
     const QString stateFolder = DocumentController::standardStateFolder();
