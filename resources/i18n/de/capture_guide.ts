@@ -1,0 +1,92 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="LockXValue">
+        <source>Lock X Value</source>
+        <extracomment>Menu command: every new point takes the X value of the field.</extracomment>
+        <translation>X-Wert festhalten</translation>
+    </message>
+    <message id="UnlockXValue">
+        <source>Unlock X Value</source>
+        <extracomment>Menu command: X follows the cursor again.</extracomment>
+        <translation>X-Wert freigeben</translation>
+    </message>
+    <message id="LockTValue">
+        <source>Lock θ Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the angle of the field.</extracomment>
+        <translation>θ-Wert festhalten</translation>
+    </message>
+    <message id="UnlockTValue">
+        <source>Unlock θ Value</source>
+        <extracomment>Menu command with polar axes: the angle follows the cursor again.</extracomment>
+        <translation>θ-Wert freigeben</translation>
+    </message>
+    <message id="LockYValue">
+        <source>Lock Y Value</source>
+        <extracomment>Menu command: every new point takes the Y value of the field.</extracomment>
+        <translation>Y-Wert festhalten</translation>
+    </message>
+    <message id="UnlockYValue">
+        <source>Unlock Y Value</source>
+        <extracomment>Menu command: Y follows the cursor again.</extracomment>
+        <translation>Y-Wert freigeben</translation>
+    </message>
+    <message id="LockRValue">
+        <source>Lock R Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the radius of the field.</extracomment>
+        <translation>R-Wert festhalten</translation>
+    </message>
+    <message id="UnlockRValue">
+        <source>Unlock R Value</source>
+        <extracomment>Menu command with polar axes: the radius follows the cursor again.</extracomment>
+        <translation>R-Wert freigeben</translation>
+    </message>
+    <message id="capture.preview.name">
+        <source>Marker preview</source>
+        <extracomment>What a screen reader says for the small picture of a marker.</extracomment>
+        <translation>Vorschau des Markers</translation>
+    </message>
+    <message id="capture.preview.tip">
+        <source>How the points of the current series are drawn</source>
+        <extracomment>Tooltip of the small picture of a marker.</extracomment>
+        <translation>So werden die Punkte der aktuellen Datenreihe gezeichnet</translation>
+    </message>
+    <message id="capture.table.name">
+        <source>Data table</source>
+        <extracomment>What a screen reader says for the table of captured points.</extracomment>
+        <translation>Datentabelle</translation>
+    </message>
+    <message id="capture.table.column">
+        <source>Series %d</source>
+        <extracomment>What a screen reader says for a column title; %d is the number of the series.</extracomment>
+        <translation>Datenreihe %d</translation>
+    </message>
+    <message id="capture.table.columnTip">
+        <source>Series %d: click to select it, Shift-click to select up to here, Ctrl-click to add it</source>
+        <extracomment>Tooltip of a column title; %d is the number of the series.</extracomment>
+        <translation>Datenreihe %d: Klicken wählt sie aus, Umschalt-Klicken bis hierher, Strg-Klicken zusätzlich</translation>
+    </message>
+    <message id="capture.table.selectAllTip">
+        <source>Select all series that hold points</source>
+        <extracomment>Tooltip of the corner button of the table.</extracomment>
+        <translation>Alle Datenreihen mit Punkten auswählen</translation>
+    </message>
+    <message id="capture.table.nothingSelected">
+        <source>No series is selected.</source>
+        <extracomment>What a screen reader says for the table's selection.</extracomment>
+        <translation>Keine Datenreihe ist ausgewählt.</translation>
+    </message>
+    <message id="capture.table.selectedSeries">
+        <source>Selected series:</source>
+        <extracomment>What a screen reader says for the table's selection; the numbers of the series follow.</extracomment>
+        <translation>Ausgewählte Datenreihen:</translation>
+    </message>
+    <message id="capture.table.empty">
+        <source>Click on the picture to capture points. They appear here, one column per series.</source>
+        <extracomment>Shown in the table while there are no points.</extracomment>
+        <translation>Klicken Sie auf das Bild, um Punkte zu erfassen. Sie erscheinen hier, eine Spalte je Datenreihe.</translation>
+    </message>
+</context>
+</TS>
