@@ -1,0 +1,92 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="LockXValue">
+        <source>Lock X Value</source>
+        <extracomment>Menu command: every new point takes the X value of the field.</extracomment>
+        <translation>Bloquer la valeur X</translation>
+    </message>
+    <message id="UnlockXValue">
+        <source>Unlock X Value</source>
+        <extracomment>Menu command: X follows the cursor again.</extracomment>
+        <translation>Débloquer la valeur X</translation>
+    </message>
+    <message id="LockTValue">
+        <source>Lock θ Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the angle of the field.</extracomment>
+        <translation>Bloquer la valeur θ</translation>
+    </message>
+    <message id="UnlockTValue">
+        <source>Unlock θ Value</source>
+        <extracomment>Menu command with polar axes: the angle follows the cursor again.</extracomment>
+        <translation>Débloquer la valeur θ</translation>
+    </message>
+    <message id="LockYValue">
+        <source>Lock Y Value</source>
+        <extracomment>Menu command: every new point takes the Y value of the field.</extracomment>
+        <translation>Bloquer la valeur Y</translation>
+    </message>
+    <message id="UnlockYValue">
+        <source>Unlock Y Value</source>
+        <extracomment>Menu command: Y follows the cursor again.</extracomment>
+        <translation>Débloquer la valeur Y</translation>
+    </message>
+    <message id="LockRValue">
+        <source>Lock R Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the radius of the field.</extracomment>
+        <translation>Bloquer la valeur R</translation>
+    </message>
+    <message id="UnlockRValue">
+        <source>Unlock R Value</source>
+        <extracomment>Menu command with polar axes: the radius follows the cursor again.</extracomment>
+        <translation>Débloquer la valeur R</translation>
+    </message>
+    <message id="capture.preview.name">
+        <source>Marker preview</source>
+        <extracomment>What a screen reader says for the small picture of a marker.</extracomment>
+        <translation>Aperçu du marqueur</translation>
+    </message>
+    <message id="capture.preview.tip">
+        <source>How the points of the current series are drawn</source>
+        <extracomment>Tooltip of the small picture of a marker.</extracomment>
+        <translation>Comment les points de la série actuelle sont tracés</translation>
+    </message>
+    <message id="capture.table.name">
+        <source>Data table</source>
+        <extracomment>What a screen reader says for the table of captured points.</extracomment>
+        <translation>Tableau des données</translation>
+    </message>
+    <message id="capture.table.column">
+        <source>Series %d</source>
+        <extracomment>What a screen reader says for a column title; %d is the number of the series.</extracomment>
+        <translation>Série %d</translation>
+    </message>
+    <message id="capture.table.columnTip">
+        <source>Series %d: click to select it, Shift-click to select up to here, Ctrl-click to add it</source>
+        <extracomment>Tooltip of a column title; %d is the number of the series.</extracomment>
+        <translation>Série %d : cliquez pour la sélectionner, Maj-clic pour sélectionner jusqu’ici, Ctrl-clic pour l’ajouter</translation>
+    </message>
+    <message id="capture.table.selectAllTip">
+        <source>Select all series that hold points</source>
+        <extracomment>Tooltip of the corner button of the table.</extracomment>
+        <translation>Sélectionner toutes les séries qui contiennent des points</translation>
+    </message>
+    <message id="capture.table.nothingSelected">
+        <source>No series is selected.</source>
+        <extracomment>What a screen reader says for the table's selection.</extracomment>
+        <translation>Aucune série n’est sélectionnée.</translation>
+    </message>
+    <message id="capture.table.selectedSeries">
+        <source>Selected series:</source>
+        <extracomment>What a screen reader says for the table's selection; the numbers of the series follow.</extracomment>
+        <translation>Séries sélectionnées :</translation>
+    </message>
+    <message id="capture.table.empty">
+        <source>Click on the picture to capture points. They appear here, one column per series.</source>
+        <extracomment>Shown in the table while there are no points.</extracomment>
+        <translation>Cliquez sur l’image pour relever des points. Ils apparaissent ici, une colonne par série.</translation>
+    </message>
+</context>
+</TS>
