@@ -1,0 +1,92 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name></name>
+    <message id="LockXValue">
+        <source>Lock X Value</source>
+        <extracomment>Menu command: every new point takes the X value of the field.</extracomment>
+        <translation>X の値を固定</translation>
+    </message>
+    <message id="UnlockXValue">
+        <source>Unlock X Value</source>
+        <extracomment>Menu command: X follows the cursor again.</extracomment>
+        <translation>X の値の固定を解除</translation>
+    </message>
+    <message id="LockTValue">
+        <source>Lock θ Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the angle of the field.</extracomment>
+        <translation>θ の値を固定</translation>
+    </message>
+    <message id="UnlockTValue">
+        <source>Unlock θ Value</source>
+        <extracomment>Menu command with polar axes: the angle follows the cursor again.</extracomment>
+        <translation>θ の値の固定を解除</translation>
+    </message>
+    <message id="LockYValue">
+        <source>Lock Y Value</source>
+        <extracomment>Menu command: every new point takes the Y value of the field.</extracomment>
+        <translation>Y の値を固定</translation>
+    </message>
+    <message id="UnlockYValue">
+        <source>Unlock Y Value</source>
+        <extracomment>Menu command: Y follows the cursor again.</extracomment>
+        <translation>Y の値の固定を解除</translation>
+    </message>
+    <message id="LockRValue">
+        <source>Lock R Value</source>
+        <extracomment>Menu command with polar axes: every new point takes the radius of the field.</extracomment>
+        <translation>R の値を固定</translation>
+    </message>
+    <message id="UnlockRValue">
+        <source>Unlock R Value</source>
+        <extracomment>Menu command with polar axes: the radius follows the cursor again.</extracomment>
+        <translation>R の値の固定を解除</translation>
+    </message>
+    <message id="capture.preview.name">
+        <source>Marker preview</source>
+        <extracomment>What a screen reader says for the small picture of a marker.</extracomment>
+        <translation>マーカーのプレビュー</translation>
+    </message>
+    <message id="capture.preview.tip">
+        <source>How the points of the current series are drawn</source>
+        <extracomment>Tooltip of the small picture of a marker.</extracomment>
+        <translation>現在の系列の点の描き方</translation>
+    </message>
+    <message id="capture.table.name">
+        <source>Data table</source>
+        <extracomment>What a screen reader says for the table of captured points.</extracomment>
+        <translation>データ表</translation>
+    </message>
+    <message id="capture.table.column">
+        <source>Series %d</source>
+        <extracomment>What a screen reader says for a column title; %d is the number of the series.</extracomment>
+        <translation>系列 %d</translation>
+    </message>
+    <message id="capture.table.columnTip">
+        <source>Series %d: click to select it, Shift-click to select up to here, Ctrl-click to add it</source>
+        <extracomment>Tooltip of a column title; %d is the number of the series.</extracomment>
+        <translation>系列 %d：クリックで選択、Shift+クリックでここまで選択、Ctrl+クリックで追加</translation>
+    </message>
+    <message id="capture.table.selectAllTip">
+        <source>Select all series that hold points</source>
+        <extracomment>Tooltip of the corner button of the table.</extracomment>
+        <translation>点のあるすべての系列を選択</translation>
+    </message>
+    <message id="capture.table.nothingSelected">
+        <source>No series is selected.</source>
+        <extracomment>What a screen reader says for the table's selection.</extracomment>
+        <translation>系列は選択されていません。</translation>
+    </message>
+    <message id="capture.table.selectedSeries">
+        <source>Selected series:</source>
+        <extracomment>What a screen reader says for the table's selection; the numbers of the series follow.</extracomment>
+        <translation>選択中の系列:</translation>
+    </message>
+    <message id="capture.table.empty">
+        <source>Click on the picture to capture points. They appear here, one column per series.</source>
+        <extracomment>Shown in the table while there are no points.</extracomment>
+        <translation>画像をクリックすると点を取得できます。取得した点は系列ごとの列に表示されます。</translation>
+    </message>
+</context>
+</TS>
