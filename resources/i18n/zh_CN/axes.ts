@@ -1,0 +1,222 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name></name>
+    <message id="InvalidSetting">
+        <source>The axis value was changed</source>
+        <extracomment>Title of the messages about axis values that were replaced.</extracomment>
+        <translation>坐标轴的值已更改</translation>
+    </message>
+    <message id="InvalidLog">
+        <source>A logarithmic axis needs values above zero. A usable value has been filled in: please check it.</source>
+        <extracomment>A value of a logarithmic axis was zero or negative.</extracomment>
+        <translation>对数坐标轴的值必须大于零。已填入一个可用的值，请检查。</translation>
+    </message>
+    <message id="SmallMax">
+        <source>The maximum has to be greater than the minimum, so it was raised. Please check it.</source>
+        <extracomment>The maximum was not above the minimum that was typed.</extracomment>
+        <translation>最大值必须大于最小值，因此已将其调高。请检查。</translation>
+    </message>
+    <message id="LargeMin">
+        <source>The minimum has to be smaller than the maximum, so it was lowered. Please check it.</source>
+        <extracomment>The minimum was not below the maximum that was typed.</extracomment>
+        <translation>最小值必须小于最大值，因此已将其调低。请检查。</translation>
+    </message>
+    <message id="YAxis">
+        <source>Y axis</source>
+        <extracomment>Title of the box with the values of the Y axis.</extracomment>
+        <translation>Y 轴</translation>
+    </message>
+    <message id="RAxis">
+        <source>Radius</source>
+        <extracomment>The same box for polar axes.</extracomment>
+        <translation>半径</translation>
+    </message>
+    <message id="AutoX">
+        <source>Automatic X</source>
+        <extracomment>Title of the box that chooses how X is filled in.</extracomment>
+        <translation>自动 X</translation>
+    </message>
+    <message id="AutoT">
+        <source>Automatic angle</source>
+        <extracomment>The same box for polar axes.</extracomment>
+        <translation>自动角度</translation>
+    </message>
+    <message id="EqualX">
+        <source>In equal steps of X</source>
+        <extracomment>The second choice for filling in X: initial value, then equal steps.</extracomment>
+        <translation>X 等间隔</translation>
+    </message>
+    <message id="EqualT">
+        <source>In equal steps of angle</source>
+        <extracomment>The same choice for polar axes.</extracomment>
+        <translation>角度等间隔</translation>
+    </message>
+    <message id="SortByX">
+        <source>Sort by X</source>
+        <extracomment>Check box: keep the points of a series in order of X.</extracomment>
+        <translation>按 X 排序</translation>
+    </message>
+    <message id="SortByT">
+        <source>Sort by angle</source>
+        <extracomment>The same check box for polar axes.</extracomment>
+        <translation>按角度排序</translation>
+    </message>
+    <message id="XValue">
+        <source>X</source>
+        <extracomment>Caption of the pointer's first graph value.</extracomment>
+        <translation>X</translation>
+    </message>
+    <message id="YValue">
+        <source>Y</source>
+        <extracomment>Caption of the pointer's second graph value.</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message id="TValue">
+        <source>θ</source>
+        <extracomment>Caption of the pointer's angle, polar axes.</extracomment>
+        <translation>θ</translation>
+    </message>
+    <message id="RValue">
+        <source>r</source>
+        <extracomment>Caption of the pointer's radius, polar axes.</extracomment>
+        <translation>r</translation>
+    </message>
+    <message id="actionAxisChange">
+        <source>Move Axes</source>
+        <extracomment>Name of the undoable dragging of an anchor; follows Undo or Redo in the menu.</extracomment>
+        <translation>移动坐标轴</translation>
+    </message>
+    <message id="actionAxisReset">
+        <source>Reset Axes</source>
+        <extracomment>Name of the undoable placing of the anchors by command; follows Undo or Redo in the menu.</extracomment>
+        <translation>重置坐标轴</translation>
+    </message>
+    <message id="axes.hint.none">
+        <source>Drag an anchor, a side or the shaded area onto the axes of the chart</source>
+        <extracomment>Status line on the axis page, pointer over nothing.</extracomment>
+        <translation>将锚点、边或阴影区域拖到图表的坐标轴上</translation>
+    </message>
+    <message id="axes.hint.area">
+        <source>Drag to move the whole frame</source>
+        <extracomment>Status line: pointer over the enclosed area.</extracomment>
+        <translation>拖动以移动整个框</translation>
+    </message>
+    <message id="axes.hint.parallel.origin">
+        <source>Drag to move the corner where X and Y have their minimum</source>
+        <extracomment>Status line: parallel axes, anchor 1.</extracomment>
+        <translation>拖动以移动 X 和 Y 最小值所在的角</translation>
+    </message>
+    <message id="axes.hint.parallel.maxx">
+        <source>Drag to move the X maximum anchor</source>
+        <extracomment>Status line: parallel axes, anchor 2.</extracomment>
+        <translation>拖动以移动 X 最大值的锚点</translation>
+    </message>
+    <message id="axes.hint.parallel.far">
+        <source>Drag to move the corner opposite the origin</source>
+        <extracomment>Status line: parallel axes, anchor 3.</extracomment>
+        <translation>拖动以移动原点对面的角</translation>
+    </message>
+    <message id="axes.hint.parallel.maxy">
+        <source>Drag to move the Y maximum anchor</source>
+        <extracomment>Status line: parallel axes, anchor 4.</extracomment>
+        <translation>拖动以移动 Y 最大值的锚点</translation>
+    </message>
+    <message id="axes.hint.parallel.xaxis">
+        <source>Drag to move the X axis</source>
+        <extracomment>Status line: parallel axes, bottom side.</extracomment>
+        <translation>拖动以移动 X 轴</translation>
+    </message>
+    <message id="axes.hint.parallel.right">
+        <source>Drag to move the side at the X maximum</source>
+        <extracomment>Status line: parallel axes, right side.</extracomment>
+        <translation>拖动以移动 X 最大值处的边</translation>
+    </message>
+    <message id="axes.hint.parallel.top">
+        <source>Drag to move the side at the Y maximum</source>
+        <extracomment>Status line: parallel axes, top side.</extracomment>
+        <translation>拖动以移动 Y 最大值处的边</translation>
+    </message>
+    <message id="axes.hint.parallel.yaxis">
+        <source>Drag to move the Y axis</source>
+        <extracomment>Status line: parallel axes, left side.</extracomment>
+        <translation>拖动以移动 Y 轴</translation>
+    </message>
+    <message id="axes.hint.quadrangle.bottomleft">
+        <source>Drag to move the bottom left corner</source>
+        <extracomment>Status line: quadrangle axes, anchor 1.</extracomment>
+        <translation>拖动以移动左下角</translation>
+    </message>
+    <message id="axes.hint.quadrangle.bottomright">
+        <source>Drag to move the bottom right corner</source>
+        <extracomment>Status line: quadrangle axes, anchor 2.</extracomment>
+        <translation>拖动以移动右下角</translation>
+    </message>
+    <message id="axes.hint.quadrangle.topright">
+        <source>Drag to move the top right corner</source>
+        <extracomment>Status line: quadrangle axes, anchor 3.</extracomment>
+        <translation>拖动以移动右上角</translation>
+    </message>
+    <message id="axes.hint.quadrangle.topleft">
+        <source>Drag to move the top left corner</source>
+        <extracomment>Status line: quadrangle axes, anchor 4.</extracomment>
+        <translation>拖动以移动左上角</translation>
+    </message>
+    <message id="axes.hint.quadrangle.bottom">
+        <source>Drag to swing the bottom side</source>
+        <extracomment>Status line: quadrangle axes, bottom side.</extracomment>
+        <translation>拖动以倾斜下边</translation>
+    </message>
+    <message id="axes.hint.quadrangle.right">
+        <source>Drag to swing the right side</source>
+        <extracomment>Status line: quadrangle axes, right side.</extracomment>
+        <translation>拖动以倾斜右边</translation>
+    </message>
+    <message id="axes.hint.quadrangle.top">
+        <source>Drag to swing the top side</source>
+        <extracomment>Status line: quadrangle axes, top side.</extracomment>
+        <translation>拖动以倾斜上边</translation>
+    </message>
+    <message id="axes.hint.quadrangle.left">
+        <source>Drag to swing the left side</source>
+        <extracomment>Status line: quadrangle axes, left side.</extracomment>
+        <translation>拖动以倾斜左边</translation>
+    </message>
+    <message id="axes.hint.polar.none">
+        <source>Drag the centre, a handle or the disc onto the axes of the chart</source>
+        <extracomment>Status line on the axis page with polar axes, pointer over nothing.</extracomment>
+        <translation>将圆心、控制点或圆盘拖到图表的坐标轴上</translation>
+    </message>
+    <message id="axes.hint.polar.area">
+        <source>Drag to move the disc</source>
+        <extracomment>Status line: polar axes, pointer inside the circle.</extracomment>
+        <translation>拖动以移动圆盘</translation>
+    </message>
+    <message id="axes.hint.polar.centre">
+        <source>Drag to move the disc by its centre</source>
+        <extracomment>Status line: polar axes, centre.</extracomment>
+        <translation>拖动圆心以移动圆盘</translation>
+    </message>
+    <message id="axes.hint.polar.end">
+        <source>Drag to move the end of the radius</source>
+        <extracomment>Status line: polar axes, radius end.</extracomment>
+        <translation>拖动以移动半径的端点</translation>
+    </message>
+    <message id="axes.hint.polar.swing">
+        <source>Drag to turn and resize the disc by this corner</source>
+        <extracomment>Status line: polar axes, a handle across the radius.</extracomment>
+        <translation>拖动此角以旋转圆盘并调整其大小</translation>
+    </message>
+    <message id="axes.hint.polar.turn">
+        <source>Drag to turn the radius</source>
+        <extracomment>Status line: polar axes, a rotation handle.</extracomment>
+        <translation>拖动以旋转半径</translation>
+    </message>
+    <message id="axes.hint.polar.size">
+        <source>Drag to make the radius longer or shorter</source>
+        <extracomment>Status line: polar axes, a size handle.</extracomment>
+        <translation>拖动以改变半径的长度</translation>
+    </message>
+</context>
+</TS>

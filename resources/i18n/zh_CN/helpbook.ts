@@ -1,0 +1,117 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name></name>
+    <message id="help.contents">
+        <source>Contents</source>
+        <extracomment>Accessible name of the list of the help's pages.</extracomment>
+        <translation>目录</translation>
+    </message>
+    <message id="help.page">
+        <source>Page</source>
+        <extracomment>Accessible name of the text of a help page.</extracomment>
+        <translation>页面</translation>
+    </message>
+    <message id="help.toolbar">
+        <source>Navigation</source>
+        <extracomment>Name of the help window's tool bar.</extracomment>
+        <translation>导航</translation>
+    </message>
+    <message id="help.back">
+        <source>Back</source>
+        <extracomment>Button of the help window.</extracomment>
+        <translation>后退</translation>
+    </message>
+    <message id="help.back.tip">
+        <source>Back to the page before (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>返回上一页 (%1)</translation>
+    </message>
+    <message id="help.forward">
+        <source>Forward</source>
+        <extracomment>Button of the help window.</extracomment>
+        <translation>前进</translation>
+    </message>
+    <message id="help.forward.tip">
+        <source>Forward again (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>再次前进 (%1)</translation>
+    </message>
+    <message id="help.find">
+        <source>Find…</source>
+        <extracomment>Button of the help window that opens the search bar.</extracomment>
+        <translation>查找…</translation>
+    </message>
+    <message id="help.find.tip">
+        <source>Find words on this page (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>在本页中查找文字 (%1)</translation>
+    </message>
+    <message id="help.smaller">
+        <source>A−</source>
+        <extracomment>Button of the help window: smaller text.</extracomment>
+        <translation>A−</translation>
+    </message>
+    <message id="help.smaller.tip">
+        <source>Smaller text (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>缩小文字 (%1)</translation>
+    </message>
+    <message id="help.normal">
+        <source>A</source>
+        <extracomment>Button of the help window: text of normal size.</extracomment>
+        <translation>A</translation>
+    </message>
+    <message id="help.normal.tip">
+        <source>Normal text (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>正常文字 (%1)</translation>
+    </message>
+    <message id="help.larger">
+        <source>A+</source>
+        <extracomment>Button of the help window: larger text.</extracomment>
+        <translation>A+</translation>
+    </message>
+    <message id="help.larger.tip">
+        <source>Larger text (%1)</source>
+        <extracomment>%1 is the shortcut.</extracomment>
+        <translation>放大文字 (%1)</translation>
+    </message>
+    <message id="help.find.caption">
+        <source>&amp;Find:</source>
+        <extracomment>Caption of the search field.</extracomment>
+        <translation>查找(&amp;F)：</translation>
+    </message>
+    <message id="help.find.accessible">
+        <source>Find on this page</source>
+        <extracomment>Accessible name of the search field.</extracomment>
+        <translation>在本页中查找</translation>
+    </message>
+    <message id="help.find.previous">
+        <source>Previous match (Shift+F3)</source>
+        <extracomment>Button of the search bar.</extracomment>
+        <translation>上一处匹配 (Shift+F3)</translation>
+    </message>
+    <message id="help.find.next">
+        <source>Next match (F3)</source>
+        <extracomment>Button of the search bar.</extracomment>
+        <translation>下一处匹配 (F3)</translation>
+    </message>
+    <message id="help.find.none">
+        <source>Not on this page</source>
+        <extracomment>Result of a search.</extracomment>
+        <translation>本页中没有</translation>
+    </message>
+    <message id="help.find.match">
+        <source>%d match</source>
+        <extracomment>Result of a search: one.</extracomment>
+        <translation>%d 处匹配</translation>
+    </message>
+    <message id="help.find.matches">
+        <source>%d matches</source>
+        <extracomment>Result of a search: two or more.</extracomment>
+        <translation>%d 处匹配</translation>
+    </message>
+</context>
+</TS>
