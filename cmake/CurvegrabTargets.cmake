@@ -48,29 +48,45 @@ function(curvegrab_add_test name)
     endif()
 endfunction()
 
-# curvegrab_add_catalogue(<target>): the English texts, compiled from one .ts file
-# per folder (resources/i18n/en/) into the resource :/i18n/curvegrab_en.qm.
-file(GLOB CURVEGRAB_TEXTS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/i18n/en/*.ts)
+# curvegrab_add_catalogue(<target> [LANGUAGES <codes…>]): the texts in these languages, English if
+# none is named, each compiled from one .ts file per folder of src/ (resources/i18n/<code>/) into the
+# resource :/i18n/curvegrab_<code>.qm. A folder there makes a language: see docs/translating.md.
+file(GLOB CURVEGRAB_LANGUAGES RELATIVE ${PROJECT_SOURCE_DIR}/resources/i18n
+    LIST_DIRECTORIES true CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/i18n/*)
+foreach(language IN LISTS CURVEGRAB_LANGUAGES)
+    file(GLOB CURVEGRAB_TEXTS_${language} CONFIGURE_DEPENDS
+        ${PROJECT_SOURCE_DIR}/resources/i18n/${language}/*.ts)
+endforeach()
 function(curvegrab_add_catalogue target)
+    cmake_parse_arguments(ARG "" "" "LANGUAGES" ${ARGN})
+    if(NOT ARG_LANGUAGES)
+        set(ARG_LANGUAGES en)
+    endif()
     get_target_property(lrelease Qt6::lrelease IMPORTED_LOCATION)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_texts)
-    set(catalogue ${folder}/curvegrab_en.qm)
-    add_custom_command(OUTPUT ${catalogue}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-        COMMAND ${lrelease} -silent -idbased ${CURVEGRAB_TEXTS} -qm ${catalogue}
-        DEPENDS ${CURVEGRAB_TEXTS} VERBATIM)
-    set_source_files_properties(${catalogue} PROPERTIES GENERATED ON)
-    qt_add_resources(${target} ${target}_texts PREFIX /i18n BASE ${folder} FILES ${catalogue})
+    set(catalogues "")
+    foreach(language IN LISTS ARG_LANGUAGES)
+        set(catalogue ${folder}/curvegrab_${language}.qm)
+        set(texts ${CURVEGRAB_TEXTS_${language}})
+        add_custom_command(OUTPUT ${catalogue}
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+            COMMAND ${lrelease} -silent -idbased ${texts} -qm ${catalogue}
+            DEPENDS ${texts} VERBATIM)
+        set_source_files_properties(${catalogue} PROPERTIES GENERATED ON)
+        list(APPEND catalogues ${catalogue})
+    endforeach()
+    qt_add_resources(${target} ${target}_texts PREFIX /i18n BASE ${folder} FILES ${catalogues})
 endfunction()
 
 file(GLOB CURVEGRAB_ICONS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/icons/*.svg)
 
-# curvegrab_add_help(<target>): the help book as the resource :/help/en. The description of the
-# document file is one of its pages.
-file(GLOB CURVEGRAB_HELP CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/help/en/*.html
+# curvegrab_add_help(<target>): the help book as the resource :/help/en, and what of its pages and
+# pictures there is in other languages beside it. The description of the document file is one of its
+# pages.
+file(GLOB CURVEGRAB_HELP CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/help/*/*.html
     ${PROJECT_SOURCE_DIR}/resources/help/en/*.css
     ${PROJECT_SOURCE_DIR}/resources/help/en/contents.txt
-    ${PROJECT_SOURCE_DIR}/resources/help/en/pictures/*.png)
+    ${PROJECT_SOURCE_DIR}/resources/help/*/pictures/*.png)
 function(curvegrab_add_help target)
     set(format ${PROJECT_SOURCE_DIR}/docs/file-format.md)
     set_source_files_properties(${format} PROPERTIES QT_RESOURCE_ALIAS en/file-format.md)

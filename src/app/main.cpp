@@ -5,6 +5,8 @@
 #include "document/ApplicationPanels.h"
 #include "document/DocumentController.h"
 #include "helpbook/HelpBookViewer.h"
+#include "platform/Languages.h"
+#include "platform/TextCatalogues.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "prefs/CurvegrabPrefs.h"
@@ -13,7 +15,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -34,13 +35,13 @@ QStringList absolute(QStringList paths)
     return paths;
 }
 
-void introduce(QTranslator &texts)
+void introduce()
 {
     QCoreApplication::setApplicationName(QStringLiteral("curvegrab"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CURVEGRAB_VERSION));
-    if (texts.load(QStringLiteral(":/i18n/curvegrab_en.qm")))
-        QCoreApplication::installTranslator(&texts);
 }
+
+QString languageOfUser() { return languages::choice(languages::wanted(), languages::available()); }
 
 /// Whether windows have somewhere to open, so that the toolkit does not have to give up.
 bool hasDisplay([[maybe_unused]] const CommandLine &commandLine)
@@ -57,8 +58,8 @@ bool hasDisplay([[maybe_unused]] const CommandLine &commandLine)
 int runWithoutWindow(int argc, char **argv, const CommandLine &commandLine)
 {
     const QCoreApplication application(argc, argv);
-    QTranslator texts;
-    introduce(texts);
+    introduce();
+    const TextCatalogues catalogues(languageOfUser());
     // Without the library's own buffer a write tells at once whether there was room.
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     QFile in;
@@ -88,8 +89,8 @@ int main(int argc, char **argv)
         return runWithoutWindow(argc, argv, commandLine);
 
     QApplication application(argc, argv);
-    QTranslator texts;
-    introduce(texts);
+    introduce();
+    const TextCatalogues catalogues(languageOfUser());
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Curvegrab X"));
     QGuiApplication::setDesktopFileName(QStringLiteral(CURVEGRAB_DESKTOP_ID));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
@@ -101,9 +102,12 @@ int main(int argc, char **argv)
 
     UserDefaults defaults(UserDefaults::standardPath());
     CurvegrabPrefs prefs(defaults);
-    HelpBookViewer help(defaults, [](const QString &command) {
-        return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
-    });
+    HelpBookViewer help(
+        defaults,
+        [](const QString &command) {
+            return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
+        },
+        catalogues.language());
     DocumentController documents(prefs, stateFolder);
     QObject::connect(&running, &RunningProgram::filesGiven, &documents,
                      [&documents](const QStringList &paths) {

@@ -53,22 +53,37 @@ QStringList capturesOf(const QRegularExpression &mark, const QString &text)
     return captures;
 }
 
+QUrl urlOfPath(const QString &path)
+{
+    return path.startsWith(u':') ? QUrl(QStringLiteral("qrc") + path) : QUrl::fromLocalFile(path);
+}
+
 } // namespace
 
-HelpBook::HelpBook(const QString &folder, KeysOfCommand keysOfCommand)
+HelpBook::HelpBook(const QString &folder, KeysOfCommand keysOfCommand, const QString &standIn)
     : m_folder(folder)
+    , m_standIn(standIn)
     , m_keysOfCommand(std::move(keysOfCommand))
 {
     const QStringList files =
-        textOf(m_folder + QStringLiteral("/contents.txt")).split(u'\n', Qt::SkipEmptyParts);
+        source(QStringLiteral("contents.txt")).split(u'\n', Qt::SkipEmptyParts);
     for (const QString &file : files)
         m_pages.push_back({file, titleOf(file, source(file))});
 }
 
-QUrl HelpBook::url(const QString &file) const
+QUrl HelpBook::url(const QString &file) const { return urlOfPath(m_folder + u'/' + file); }
+
+QUrl HelpBook::located(const QUrl &url) const
+{
+    const QString folder = this->url(QString()).toString();
+    const QString address = url.toString();
+    return address.startsWith(folder) ? urlOfPath(pathOf(address.mid(folder.size()))) : url;
+}
+
+QString HelpBook::pathOf(const QString &file) const
 {
     const QString path = m_folder + u'/' + file;
-    return path.startsWith(u':') ? QUrl(QStringLiteral("qrc") + path) : QUrl::fromLocalFile(path);
+    return m_standIn.isEmpty() || QFile::exists(path) ? path : m_standIn + u'/' + file;
 }
 
 std::optional<QUrl> HelpBook::urlOfAnchor(const QString &anchor) const
@@ -112,4 +127,4 @@ QStringList HelpBook::anchorsIn(const QString &source) { return capturesOf(ancho
 
 QStringList HelpBook::commandsIn(const QString &source) { return capturesOf(keyMark(), source); }
 
-QString HelpBook::source(const QString &file) const { return textOf(m_folder + u'/' + file); }
+QString HelpBook::source(const QString &file) const { return textOf(pathOf(file)); }

@@ -23,8 +23,10 @@ public:
     /// none.
     using KeysOfCommand = std::function<QString(const QString &command)>;
 
-    /// `folder` may be one of the resources.
-    explicit HelpBook(const QString &folder, KeysOfCommand keysOfCommand = {});
+    /// `folder` may be one of the resources. What it lacks is taken from the folder `standIn`, so
+    /// that a book in another language may have some of the pages only.
+    explicit HelpBook(const QString &folder, KeysOfCommand keysOfCommand = {},
+                      const QString &standIn = {});
 
     [[nodiscard]] const std::vector<Page> &pages() const & { return m_pages; }
     const std::vector<Page> &pages() const && = delete;
@@ -48,8 +50,14 @@ public:
     /// A page as it stands in its file.
     [[nodiscard]] QString source(const QString &file) const;
 
+    /// Where what is called `url` in this book lies: in its folder or in that of the stand-in.
+    [[nodiscard]] QUrl located(const QUrl &url) const;
+
 private:
+    [[nodiscard]] QString pathOf(const QString &file) const;
+
     QString m_folder;
+    QString m_standIn;
     KeysOfCommand m_keysOfCommand;
     std::vector<Page> m_pages;
 };

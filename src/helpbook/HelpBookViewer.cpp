@@ -5,9 +5,11 @@
 
 #include <utility>
 
-HelpBookViewer::HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand)
+HelpBookViewer::HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand,
+                               const QString &language)
     : m_defaults(defaults)
     , m_keysOfCommand(std::move(keysOfCommand))
+    , m_folder(QStringLiteral(":/help/") + language)
 {}
 
 HelpBookViewer::~HelpBookViewer() = default;
@@ -19,6 +21,6 @@ void HelpBookViewer::openHelpAnchor(const QString &anchor, const QString &inBook
         return;
     if (m_window == nullptr)
         m_window = std::make_unique<HelpWindow>(
-            inBook, HelpBook(QStringLiteral(":/help/en"), m_keysOfCommand), m_defaults);
+            inBook, HelpBook(m_folder, m_keysOfCommand, QStringLiteral(":/help/en")), m_defaults);
     m_window->showAnchor(anchor);
 }

@@ -12,8 +12,9 @@ class UserDefaults;
 class HelpBookViewer final : public HelpViewer
 {
 public:
-    /// `defaults` outlives the viewer.
-    HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand);
+    /// `defaults` outlives the viewer. Pages that there are not in `language` are shown in English.
+    HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand,
+                   const QString &language = QStringLiteral("en"));
     ~HelpBookViewer() override;
 
     void openHelpAnchor(const QString &anchor, const QString &inBook) override;
@@ -24,5 +25,6 @@ public:
 private:
     UserDefaults &m_defaults;
     HelpBook::KeysOfCommand m_keysOfCommand;
+    QString m_folder; ///< of the book in the user's language
     std::unique_ptr<HelpWindow> m_window;
 };

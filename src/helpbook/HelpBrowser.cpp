@@ -11,11 +11,11 @@ HelpBrowser::HelpBrowser(const HelpBook &book, QWidget *parent)
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
-    const std::optional<int> page =
-        m_book.indexOf(name.isRelative() ? source().resolved(name) : name);
+    const QUrl address = name.isRelative() ? source().resolved(name) : name;
+    const std::optional<int> page = m_book.indexOf(address);
     const bool isText =
         type == QTextDocument::HtmlResource || type == QTextDocument::MarkdownResource;
     if (isText && page)
         return m_book.text(m_book.pages()[static_cast<std::size_t>(*page)].file);
-    return QTextBrowser::loadResource(type, name);
+    return QTextBrowser::loadResource(type, m_book.located(address));
 }

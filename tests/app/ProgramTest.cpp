@@ -4,6 +4,9 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
 struct Result
@@ -19,10 +22,20 @@ protected:
     Result program(const QStringList &arguments, const QByteArray &input = {},
                    const QString &outputFile = {}) const
     {
+        return programIn({{"CURVEGRAB_LANGUAGE", "en"}}, arguments, input, outputFile);
+    }
+
+    /// `variables` join the environment.
+    Result programIn(const std::vector<std::pair<QString, QString>> &variables,
+                     const QStringList &arguments, const QByteArray &input = {},
+                     const QString &outputFile = {}) const
+    {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environment.remove(QString::fromLatin1(name));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
+        for (const auto &[name, value] : variables)
+            environment.insert(name, value);
         QProcess process;
         process.setProcessEnvironment(environment);
         if (!outputFile.isEmpty())
@@ -46,6 +59,28 @@ TEST_F(Program, exportsWithoutADisplay)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.out, "Series_01_x\tSeries_01_y\n1\t-1\n2\t-2\n");
     EXPECT_EQ(result.err, QString());
+}
+
+TEST_F(Program, speaksTheLanguageOfTheDesktop)
+{
+    const auto complaint = [this](const QString &desktop, const QString &override) {
+        const std::vector<std::pair<QString, QString>> variables = {
+            {"LANGUAGE", desktop}, {"CURVEGRAB_LANGUAGE", override}};
+        return programIn(variables, {"--info"}).err;
+    };
+    EXPECT_TRUE(complaint("de_AT:en", "").contains("Nennen Sie mindestens ein Dokument."));
+    EXPECT_TRUE(complaint("fi", "").contains("Name at least one document."));
+    EXPECT_TRUE(complaint("de", "zh_CN").contains(QStringLiteral("请至少指定一个文档。")));
+}
+
+TEST_F(Program, writesNumbersWithAPointInEveryLanguage)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({2}));
+    const Result english = program({"--export", "-", file});
+    const Result german = programIn({{"CURVEGRAB_LANGUAGE", "de"}, {"LC_ALL", "de_DE.UTF-8"}},
+                                    {"--export", "-", file});
+    EXPECT_EQ(german.exitCode, 0);
+    EXPECT_EQ(german.out, english.out);
 }
 
 TEST_F(Program, followsThePreferenceForTitles)

@@ -49,6 +49,7 @@ ProgramUnderTest::ProgramUnderTest(const QString &picturePath)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath("config"));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), m_folder.filePath("data"));
+    environment.insert(QStringLiteral("CURVEGRAB_LANGUAGE"), QStringLiteral("en"));
     // The info panel would float above the picture.
     const QDir config(m_folder.filePath(QStringLiteral("config/curvegrab")));
     QFile preferences(config.filePath(QStringLiteral("preferences.json")));

@@ -43,6 +43,30 @@ TEST(HelpBook, theCommandsOfAPageAreKnownByTheirNames)
               QStringList({"zoomIn", "nothing"}));
 }
 
+TEST(HelpBook, whatALanguageLacksComesFromTheStandIn)
+{
+    const SampleBook sample;
+    const QTemporaryDir folder;
+    QFile page(folder.filePath(QStringLiteral("two.html")));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.write("<title>Zweite Seite</title>");
+    page.close();
+    const HelpBook book(folder.path(), {}, sample.folder());
+    ASSERT_EQ(book.pages().size(), 3U);
+    EXPECT_EQ(book.pages()[0].title, QStringLiteral("First page"));
+    EXPECT_EQ(book.pages()[1].title, QStringLiteral("Zweite Seite"));
+    EXPECT_EQ(book.located(book.url(QStringLiteral("one.html"))).toLocalFile(),
+              sample.folder() + QStringLiteral("/one.html"));
+    EXPECT_EQ(book.located(book.url(QStringLiteral("two.html"))).toLocalFile(), page.fileName());
+}
+
+TEST(HelpBook, foreignAddressesLieWhereTheyAre)
+{
+    const SampleBook sample;
+    const QUrl elsewhere(QStringLiteral("https://example.org/one.html"));
+    EXPECT_EQ(sample.book().located(elsewhere), elsewhere);
+}
+
 TEST(HelpBook, aFolderWithoutABookHasNoPages)
 {
     const HelpBook book(QStringLiteral("/nowhere"));

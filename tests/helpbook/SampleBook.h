@@ -33,6 +33,8 @@ public:
         });
     }
 
+    [[nodiscard]] QString folder() const { return m_folder.path(); }
+
 private:
     void write(const QString &name, const QByteArray &bytes) const
     {
