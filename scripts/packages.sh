@@ -11,7 +11,7 @@ packages_to_run=(
 
 # To run the tests.
 packages_to_test=(
-    libgtest-dev xvfb xauth xdotool openbox groff-base
+    lld libgtest-dev xvfb xauth xdotool openbox groff-base
     desktop-file-utils shared-mime-info appstream
 )
 
