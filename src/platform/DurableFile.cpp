@@ -1,5 +1,6 @@
 #include "platform/DurableFile.h"
 
+#include "platform/NamelessFile.h"
 #include "platform/Texts.h"
 
 #include <QDir>
@@ -57,13 +58,54 @@ QString reasonToOpen(const QSaveFile &file, const QFileInfo &target)
     const QFileInfo folder(target.absolutePath());
     if (!folder.isDir())
         return texts::localized("platform.file.folderGone");
-    if (target.isDir())
-        return texts::localized("platform.file.isFolder");
     if (target.exists() && !target.isWritable())
         return texts::localized("platform.file.readOnly");
     if (!folder.isWritable())
         return texts::localized("platform.file.folderReadOnly");
     return file.errorString();
+}
+
+/// The file itself, where `target` may be a link to it.
+QString realPath(const QFileInfo &target)
+{
+    if (target.exists())
+        return target.canonicalFilePath();
+    return target.isSymLink() ? target.symLinkTarget() : target.absoluteFilePath();
+}
+
+/// 0, or the number of what went wrong; nothing where files without a name are not known.
+std::optional<int> writeNameless(const QString &path, const QByteArray &bytes)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    std::optional<NamelessFile> file = NamelessFile::inFolder(folder);
+    if (!file)
+        return std::nullopt;
+    if (const int number = file->write(bytes); number != 0)
+        return number;
+    if (const int number = file->flush(); number != 0)
+        return number;
+    if (file->nameBeside(path) != 0)
+        return std::nullopt;
+    const int number = file->takePlaceOf(path);
+    flushFolder(folder);
+    return number;
+}
+
+/// The same by a file whose name begins with the target's; a kill leaves it there.
+std::optional<QString> writeBeside(const QFileInfo &target, const QByteArray &bytes)
+{
+    QSaveFile file(target.filePath());
+    if (!file.open(QIODevice::WriteOnly))
+        return reasonToOpen(file, target);
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        return errno != 0 ? systemReason(errno) : file.errorString();
+    if (const int number = flushToDisk(file.handle()); number != 0)
+        return systemReason(number);
+    if (!file.commit())
+        return file.errorString();
+    flushFolder(QFileInfo(realPath(target)).absolutePath());
+    return std::nullopt;
 }
 
 } // namespace
@@ -81,19 +123,14 @@ std::optional<Stamp> stampOf(const QString &path)
 std::optional<QString> write(const QString &path, const QByteArray &bytes)
 {
     const QFileInfo target(path);
-    QSaveFile file(path);
-    if (target.isDir() || !file.open(QIODevice::WriteOnly))
-        return reasonToOpen(file, target);
-    errno = 0;
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        return errno != 0 ? systemReason(errno) : file.errorString();
-    if (const int number = flushToDisk(file.handle()); number != 0)
-        return systemReason(number);
-    if (!file.commit())
-        return file.errorString();
-    const QString real = target.isSymLink() ? target.symLinkTarget() : target.absoluteFilePath();
-    flushFolder(QFileInfo(real).absolutePath());
-    return std::nullopt;
+    if (target.isDir())
+        return texts::localized("platform.file.isFolder");
+    const QString real = realPath(target);
+    if (!target.exists() || (target.isFile() && target.isWritable())) {
+        if (const std::optional<int> number = writeNameless(real, bytes))
+            return *number == 0 ? std::nullopt : std::optional(systemReason(*number));
+    }
+    return writeBeside(target, bytes);
 }
 
 } // namespace durablefile
