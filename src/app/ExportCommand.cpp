@@ -2,11 +2,11 @@
 
 #include "app/DocumentInput.h"
 #include "capture/SeriesText.h"
+#include "platform/DurableFile.h"
 #include "platform/Texts.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <optional>
@@ -60,11 +60,7 @@ std::optional<QString> writeFile(const QString &path, const QByteArray &bytes)
             return std::nullopt;
         return device.errorString();
     }
-    QSaveFile file(path);
-    // Flushed by hand: commit() does not notice when the last buffered bytes find no room.
-    if (file.open(QIODevice::WriteOnly) && isWritten(file, bytes) && file.flush() && file.commit())
-        return std::nullopt;
-    return file.errorString();
+    return durablefile::write(path, bytes);
 }
 
 /// Writes to where the user wants it; false, and the user is told why, if that fails.

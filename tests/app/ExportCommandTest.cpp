@@ -5,6 +5,10 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 namespace {
 
 class ExportCommand : public ConsoleFixture
@@ -180,6 +184,23 @@ TEST_F(ExportCommand, aFolderThatIsNotThereIsTold)
     const QString output = path("nowhere/out.txt");
     EXPECT_EQ(run({"--export", output, file}), exitcode::failure);
     EXPECT_TRUE(err().startsWith("curvegrab: " + output + ": ")) << qPrintable(err());
+}
+
+TEST_F(ExportCommand, aFileThatMayNotGrowLeavesTheOldOneWhole)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({2000}));
+    writeBytes("out.txt", "what was there");
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit tight{1000, limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    const int code = run({"--export", path("out.txt"), file});
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    EXPECT_EQ(code, exitcode::failure);
+    EXPECT_TRUE(err().contains(qtTrId("platform.file.tooLarge"))) << qPrintable(err());
+    EXPECT_TRUE(err().startsWith("curvegrab: " + path("out.txt") + ": ")) << qPrintable(err());
+    EXPECT_EQ(bytesOf("out.txt"), "what was there");
 }
 
 TEST_F(ExportCommand, aFolderIsNotReplacedByAFile)
