@@ -293,6 +293,8 @@ void MyDocument::showLoaded()
 {
     m_undoManager.removeAllActionsWithTarget(m_currentAxes.get());
     m_undoManager.removeAllActionsWithTarget(m_dataSeries.get());
+    // From where a new window begins, so that a used one comes to the same state.
+    forceAxisSettingMode();
     windowControllerDidLoadNib();
 }
 

@@ -12,6 +12,16 @@ int pixels(float length)
     return static_cast<int>(std::max(-furthest, std::min(length, furthest)));
 }
 
+/// Whether a frame that sticks out of the screen stands as somebody may have put it: not larger
+/// than the screen, with its title bar below the top and most of its width and height in view.
+bool isStillAtHand(const QRect &frame, const QRect &screen)
+{
+    const QRect shown = frame.intersected(screen);
+    return frame.width() <= screen.width() && frame.height() <= screen.height() &&
+           frame.top() >= screen.top() && 2 * shown.width() > frame.width() &&
+           2 * shown.height() > frame.height();
+}
+
 } // namespace
 
 namespace windowframe {
@@ -61,7 +71,9 @@ QRect restored(const QRect &frame, QSize minimum, const QList<QRect> &screens)
     const auto best = std::max_element(
         screens.begin(), screens.end(),
         [&shownOn](const QRect &a, const QRect &b) { return shownOn(a) < shownOn(b); });
-    return best == screens.end() ? raised : placed(raised, raised.size(), *best);
+    if (best == screens.end() || isStillAtHand(raised, *best))
+        return raised;
+    return placed(raised, raised.size(), *best);
 }
 
 } // namespace windowframe

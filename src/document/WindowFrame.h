@@ -26,7 +26,7 @@ inline constexpr float marginHeight = 207.0F;
 [[nodiscard]] QRect fromBottomLeft(const FloatRect &frame, const QRect &primaryScreen);
 
 /// A stored frame as it fits the desktop of today: raised to `minimum` and brought onto the screen
-/// that has most of it, else onto the first one.
+/// that has most of it, else onto the first one. A frame that sticks out by less than a half stays.
 [[nodiscard]] QRect restored(const QRect &frame, QSize minimum, const QList<QRect> &screens);
 
 } // namespace windowframe

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 using windowframe::placed;
+using windowframe::restored;
 using windowframe::standardSize;
 
 TEST(WindowFrame, standardSizeLeavesTheFixedMargins)
@@ -39,4 +40,32 @@ TEST(WindowFrame, aFrameBesideTheScreenIsBroughtBack)
 {
     EXPECT_EQ(placed({1200, 300, 400, 200}, {400, 200}, {0, 0, 1280, 1024}),
               QRect(880, 300, 400, 200));
+}
+
+TEST(WindowFrame, aStoredFrameThatSticksOutALittleStays)
+{
+    const QList<QRect> screens{{0, 0, 1280, 1024}};
+    for (const QRect &frame : {QRect(-190, 300, 400, 200), QRect(1070, 300, 400, 200),
+                               QRect(100, 930, 400, 180), QRect(0, 0, 1280, 1024)})
+        EXPECT_EQ(restored(frame, {300, 100}, screens), frame);
+}
+
+TEST(WindowFrame, aStoredFrameThatIsHalfGoneIsBroughtBack)
+{
+    const QList<QRect> screens{{0, 0, 1280, 1024}};
+    EXPECT_EQ(restored({-200, 300, 400, 200}, {300, 100}, screens), QRect(0, 300, 400, 200));
+    EXPECT_EQ(restored({1100, 300, 400, 200}, {300, 100}, screens), QRect(880, 300, 400, 200));
+    EXPECT_EQ(restored({100, 934, 400, 180}, {300, 100}, screens), QRect(100, 844, 400, 180));
+}
+
+TEST(WindowFrame, aStoredFrameWhoseTitleIsAboveTheScreenIsBroughtBack)
+{
+    EXPECT_EQ(restored({100, -1, 400, 200}, {300, 100}, {{0, 0, 1280, 1024}}),
+              QRect(100, 0, 400, 200));
+}
+
+TEST(WindowFrame, aStoredFrameLargerThanTheScreenTakesTheScreen)
+{
+    EXPECT_EQ(restored({10, 10, 1300, 200}, {300, 100}, {{0, 0, 1280, 1024}}),
+              QRect(0, 10, 1280, 200));
 }
