@@ -28,6 +28,20 @@ set yrange [0.1:10000]
 plot 8000*x**(-1.2) title "8000 E^{-1.2}" linecolor "#1f5f8b"
 unset logscale
 
+set output "growth-semilogarithmic.png"
+set title "Growth of a culture" offset 0,-0.6
+set xlabel "time (h)"
+set ylabel "cells per ml"
+set logscale y
+set xrange [0:24]
+set yrange [1e3:1e9]
+set format y "10^{%T}"
+set xtics 4
+plot 3e8/(1+3e8/5e3*exp(-0.9*x)) title "logistic growth" linecolor "#1f5f8b"
+unset logscale
+set format y
+set xtics autofreq
+
 # A polar chart: centre (350, 350), radius 10 at 280 pixels.
 set output "cardioid-polar.png"
 set terminal pngcairo size 700,700 font "DejaVu Sans,13" linewidth 1.5 background "white"

@@ -54,6 +54,8 @@ public:
     void newDocument() override;
     void editPreferences() override;
     void openFiles(const QStringList &paths) override;
+    void openCopy(const QString &path) override;
+    [[nodiscard]] QString examplesFolder() const override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
     [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;

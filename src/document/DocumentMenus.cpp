@@ -1,5 +1,6 @@
 #include "document/DocumentMenus.h"
 
+#include "document/ExamplesMenu.h"
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
 #include "document/RecentFilesMenu.h"
@@ -340,6 +341,10 @@ void DocumentMenus::addHelpMenu()
                noRule,
                {},
                &MyDocument::showDigitizeHelp});
+    m_examples = new ExamplesMenu(m_document, menu);
+    menu->addMenu(m_examples);
+    connect(menu, &QMenu::aboutToShow, this,
+            [this] { m_examples->menuAction()->setVisible(m_examples->hasExamples()); });
     menu->addSeparator();
     add(menu, {"about", "document.command.about", noRule, {}, &MyDocument::about});
 }

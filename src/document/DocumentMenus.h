@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class ExamplesMenu;
 class MyDocument;
 class QAction;
 class QMainWindow;
@@ -33,6 +34,9 @@ public:
     /// Enables each command exactly when it makes sense now, and brings titles and marks up to
     /// date.
     void refresh();
+
+    /// The examples to try, a menu of the window.
+    [[nodiscard]] ExamplesMenu &examples() const { return *m_examples; }
 
 private:
     struct Command
@@ -62,6 +66,7 @@ private:
     SharedItems m_shared;
     std::vector<QAction *> m_actions;
     RecentFilesMenu *m_recentFiles = nullptr; // owned by the menu
+    ExamplesMenu *m_examples = nullptr;       // owned by the menu
     QAction *m_revert = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;

@@ -51,6 +51,10 @@ public:
     virtual void editPreferences() = 0;
     /// Opens documents and pictures, each in a window of its own.
     virtual void openFiles(const QStringList &paths) = 0;
+    /// Opens an untitled copy of a document, in a window of its own.
+    virtual void openCopy(const QString &path) = 0;
+    /// The folder with the documents that come with the program.
+    [[nodiscard]] virtual QString examplesFolder() const = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
     /// Where unsaved changes are kept safe from a crash.
     [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;

@@ -94,6 +94,8 @@ DocumentWindow::~DocumentWindow() = default;
 
 void DocumentWindow::showEmptyHint(bool shown) { m_emptyHint->setVisible(shown); }
 
+void DocumentWindow::offerExamples(QMenu &examples) { m_emptyHint->offer(examples); }
+
 void DocumentWindow::showScale(const QString &text) { m_ui->zoomLabel->setText(text); }
 
 void DocumentWindow::applyIcons()

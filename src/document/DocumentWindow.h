@@ -10,6 +10,7 @@ class MyDocument;
 
 class EmptyPictureHint;
 class MyDocument;
+class QMenu;
 class StatusLine;
 
 /// The window of one document: the picture with its bar of controls, the action tab, the status
@@ -28,6 +29,8 @@ public:
 
     /// Shows or hides the words in the empty picture area that say what to do next.
     void showEmptyHint(bool shown);
+    /// Offers `examples` there, a menu of the window.
+    void offerExamples(QMenu &examples);
 
     /// The magnification beside the slider; empty text without a picture.
     void showScale(const QString &text);

@@ -3,8 +3,10 @@
 #include "platform/Texts.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -28,13 +30,28 @@ EmptyPictureHint::EmptyPictureHint(QWidget *area)
     auto *open = new QPushButton(texts::localized("document.empty.open"), this);
     open->setObjectName(QStringLiteral("emptyOpenButton"));
     connect(open, &QPushButton::clicked, this, &EmptyPictureHint::openRequested);
+    m_buttons = new QHBoxLayout;
+    m_buttons->addStretch();
+    m_buttons->addWidget(open);
+    m_buttons->addStretch();
     column->addStretch(2);
-    for (QWidget *part : {static_cast<QWidget *>(symbol), static_cast<QWidget *>(title),
-                          static_cast<QWidget *>(steps), static_cast<QWidget *>(open)})
+    for (QLabel *part : {symbol, title, steps})
         column->addWidget(part, 0, Qt::AlignHCenter);
+    column->addLayout(m_buttons);
     column->addStretch(3);
     area->installEventFilter(this);
     setGeometry(area->rect());
+}
+
+void EmptyPictureHint::offer(QMenu &examples)
+{
+    auto *button = new QPushButton(texts::localized("document.empty.example"), this);
+    button->setObjectName(QStringLiteral("emptyExampleButton"));
+    button->setToolTip(texts::localized("document.empty.example.tip"));
+    connect(button, &QPushButton::clicked, &examples, [button, &examples] {
+        examples.popup(button->mapToGlobal(button->rect().bottomLeft()));
+    });
+    m_buttons->insertWidget(m_buttons->count() - 1, button);
 }
 
 bool EmptyPictureHint::eventFilter(QObject *watched, QEvent *event)

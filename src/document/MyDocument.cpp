@@ -9,6 +9,7 @@
 #include "document/DocumentSaving.h"
 #include "document/DocumentStatus.h"
 #include "document/DocumentWindow.h"
+#include "document/ExamplesMenu.h"
 #include "document/RecentFiles.h"
 #include "document/ToolPalette.h"
 #include "document/WindowFrame.h"
@@ -54,6 +55,8 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     makeComponents();
     wire();
     m_menus = new DocumentMenus(*this, *m_window, services.sharedItems());
+    if (m_menus->examples().hasExamples())
+        m_window->offerExamples(m_menus->examples());
     m_status = new DocumentStatus(*this);
     m_tools = new ToolPalette(*this);
     m_saving = std::make_unique<DocumentSaving>(*this, m_dialogs, *m_window->ui().statusBar);
@@ -351,6 +354,10 @@ void MyDocument::openDocument()
 void MyDocument::openFiles(const QStringList &paths) { m_services.openFiles(paths); }
 
 QStringList MyDocument::recentFiles() const { return m_services.recentFiles().paths(); }
+
+void MyDocument::openCopy(const QString &path) { m_services.openCopy(path); }
+
+QString MyDocument::examplesFolder() const { return m_services.examplesFolder(); }
 
 void MyDocument::clearRecentFiles() { m_services.recentFiles().clear(); }
 

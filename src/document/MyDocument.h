@@ -98,6 +98,8 @@ public:
     void closeThen(std::function<void()> closed);
     void raise();
     [[nodiscard]] QStringList recentFiles() const;
+    /// The folder with the documents that come with the program.
+    [[nodiscard]] QString examplesFolder() const;
 
     [[nodiscard]] DocumentWindow &window() const { return *m_window; }
     [[nodiscard]] GraphImageView &graphView() const { return *m_graphView; }
@@ -165,6 +167,8 @@ public Q_SLOTS:
     void newDocument();
     void openDocument();
     void openFiles(const QStringList &paths);
+    /// Opens an untitled copy of a document.
+    void openCopy(const QString &path);
     void clearRecentFiles();
     void saveDocument();
     void saveDocumentAs();

@@ -83,6 +83,8 @@ public:
     void newDocument() override { ++newDocuments; }
     void editPreferences() override { ++preferencesEdits; }
     void openFiles(const QStringList &paths) override { openedFiles += paths; }
+    void openCopy(const QString &path) override { openedCopies += path; }
+    QString examplesFolder() const override { return examples; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
     RecoveryStore &recoveryStore() override { return m_recovery; }
     [[nodiscard]] QString recoveryFolder() const
@@ -107,6 +109,8 @@ public:
     FakeDesktop *desktop = nullptr;
     MyDocument *keyDocument = nullptr;
     QStringList openedFiles;
+    QStringList openedCopies;
+    QString examples; ///< the folder that holds them
     int newDocuments = 0;
     int terminations = 0;
     int preferencesEdits = 0;

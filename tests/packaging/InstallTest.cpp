@@ -1,9 +1,11 @@
 // Installs what was built into a folder of its own and looks at it as a desktop does.
 #include "document/DocumentTypes.h"
+#include "document/ExampleDocuments.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QMap>
 #include <QMimeDatabase>
@@ -129,8 +131,9 @@ TEST_F(Install, putsEveryFileWhereItBelongsAndNoOther)
         expected += share + iconPath(size, "mimetypes/application-x-curvegrab");
     }
     for (const char *const example :
-         {"cardioid-polar.png", "damped-oscillation.crvgrab", "damped-oscillation.png",
-          "decay-logarithmic.png", "slanted-chart.png"})
+         {"cardioid-polar.crvgrab", "cardioid-polar.png", "damped-oscillation.crvgrab",
+          "damped-oscillation.png", "decay-logarithmic.png", "growth-semilogarithmic.crvgrab",
+          "growth-semilogarithmic.png", "slanted-chart.crvgrab", "slanted-chart.png"})
         expected += share + QStringLiteral("curvegrab/examples/") + QLatin1String(example);
     expected.sort();
     EXPECT_EQ(installedFiles().join(u'\n'), expected.join(u'\n'));
@@ -217,6 +220,13 @@ TEST_F(Install, theInstalledProgramReadsAnInstalledExample)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_TRUE(result.out.startsWith(QStringLiteral("Series_01_x\tSeries_01_y\n")))
         << qPrintable(result.out);
+}
+
+TEST_F(Install, theInstalledProgramFindsItsExamples)
+{
+    const QDir folder(exampledocuments::folderFor(QFileInfo(program()).path()));
+    for (const exampledocuments::Example &example : exampledocuments::all())
+        EXPECT_TRUE(folder.exists(QLatin1String(example.file))) << example.file;
 }
 
 // A packager's build must not leave its own folders in what users get.
