@@ -214,9 +214,10 @@ void MyDocument::applyFrame(const QRect &frame)
     const auto apply = [this, frame] {
         const int drawer = m_window->ui().dataTableDrawer->widthInWindow();
         const QSize decoration = m_window->frameGeometry().size() - m_window->size();
-        const QSize smallest = m_window->minimumSize() - QSize(drawer, 0) + decoration;
-        const QRect fitting = windowframe::restored(frame, smallest, usableScreens());
-        m_window->resize(fitting.size() - decoration + QSize(drawer, 0));
+        const QSize smallest = m_window->minimumSize() + decoration;
+        const QRect fitting =
+            windowframe::restored(frame.adjusted(0, 0, drawer, 0), smallest, usableScreens());
+        m_window->resize(fitting.size() - decoration);
         m_window->move(fitting.topLeft());
     };
     apply();

@@ -229,6 +229,8 @@ private:
     void makeScaledImage();
     void zoomAbout(double factor, QPointF viewportPosition);
 
+    /// A press that makes the window active does nothing else.
+    [[nodiscard]] bool bringsWindowToFront(const QMouseEvent &press) const;
     void mouseDown(FloatPoint windowPoint, FloatPoint viewPosition, int mode);
     void mouseDragged(FloatPoint windowPoint);
     void mouseUp();
@@ -297,7 +299,7 @@ private:
     FloatPoint m_anchorDragPosition; ///< of its last move, in view points
     std::vector<std::unique_ptr<QKeyEvent>> m_keysDuringDrag;
     bool m_spaceIsHeld = false;
-    bool m_windowWasActive = false;
+    std::optional<quint32> m_activatedAt; ///< when the window last became active, if it ever did
     std::optional<FloatPoint> m_hover;
     QPointF m_movedTo; ///< where in the viewport the last move was, to the pixel
 };

@@ -7,6 +7,7 @@
 #include "platform/UndoManager.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -23,6 +24,14 @@ bool isPointerInside(FloatPoint p, const FloatRect &rect)
 {
     return p.x >= rect.origin.x && p.x < rect.origin.x + rect.size.width && p.y > rect.origin.y &&
            p.y <= rect.origin.y + rect.size.height;
+}
+
+/// The clock by which the window system tells the times of presses.
+quint32 millisecondsOfClock()
+{
+    QElapsedTimer clock;
+    clock.start();
+    return static_cast<quint32>(clock.msecsSinceReference());
 }
 
 /// An interval of a timer. A stored one may be any number.
@@ -93,15 +102,27 @@ void GraphImageView::setForcedMode(std::optional<MouseDownMode> mode)
 
 // Press, drag, release
 
+// Where there is nobody to activate windows none ever becomes active, and each press counts. A
+// window manager may activate the window first and hand on the press afterwards: then the button
+// went down before the window became active.
+bool GraphImageView::bringsWindowToFront(const QMouseEvent &press) const
+{
+    if (!m_activatedAt)
+        return false;
+    if (!isActiveWindow())
+        return true;
+    constexpr quint32 handedOnWithin = 1000; // milliseconds
+    // The window system's clock may wrap around at 32 bits.
+    return *m_activatedAt - static_cast<quint32>(press.timestamp()) < handedOnWithin;
+}
+
 void GraphImageView::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
-    // This press only brings the window to the front. Where there is nobody to activate
-    // windows none ever becomes active, and each press counts.
-    if (m_windowWasActive && !isActiveWindow())
+    if (bringsWindowToFront(*event))
         return;
     if (!m_scaledImage)
         return;
@@ -278,7 +299,7 @@ void GraphImageView::focusOutEvent(QFocusEvent *event)
 bool GraphImageView::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate) {
-        m_windowWasActive = true;
+        m_activatedAt = millisecondsOfClock();
     } else if (event->type() == QEvent::WindowBlocked) {
         m_windowIsBlocked = true;
         abandonPress();

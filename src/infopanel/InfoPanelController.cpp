@@ -1,5 +1,6 @@
 #include "infopanel/InfoPanelController.h"
 
+#include "platform/FloatingPanel.h"
 #include "platform/Texts.h"
 #include "ui_InfoPanel.h"
 
@@ -51,8 +52,6 @@ InfoPanelController::InfoPanelController(InfoPanelPrefs &prefs, QAction &showHid
     m_axisLabel = {ui.axisLabel0, ui.axisLabel1, ui.axisLabel2, ui.axisLabel3,
                    ui.axisLabel4, ui.axisLabel5, ui.axisLabel6};
     m_dataInfo = {ui.dataInfo0, ui.dataInfo1, ui.dataInfo2, ui.dataInfo3};
-    m_infoPanel->setAttribute(Qt::WA_ShowWithoutActivating);
-    m_infoPanel->setAttribute(Qt::WA_QuitOnClose, false);
     m_infoPanel->installEventFilter(this);
     connect(&showHideMenu, &QAction::triggered, this, &InfoPanelController::showInfoPanel);
 }
@@ -76,9 +75,12 @@ void InfoPanelController::awakeFromNib()
 
 void InfoPanelController::setIsVisible(bool visible)
 {
-    if (visible)
-        placeAtFirst();
-    m_infoPanel->setVisible(visible);
+    if (!visible) {
+        m_infoPanel->hide();
+        return;
+    }
+    placeAtFirst();
+    floatingpanel::show(*m_infoPanel);
 }
 
 // In the corner of the screen it is least in the way; from then on it stays where the user

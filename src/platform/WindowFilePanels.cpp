@@ -65,7 +65,6 @@ Sheet overwriteQuestion(const QString &path)
 
 WindowFilePanels::WindowFilePanels(WindowSheets &sheets)
     : m_sheets(sheets)
-    , m_folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
 {}
 
 QString WindowFilePanels::Saving::completed(const QString &path) const
@@ -96,7 +95,7 @@ void WindowFilePanels::chooseFileToSave(const Saving &saving, const QString &pro
 {
     m_sheets.presentDialog(
         [this, saving, proposed](QWidget *window) {
-            return makeSavePanel(window, saving.message, m_folder, proposed,
+            return makeSavePanel(window, saving.message, folderFor(*window), proposed,
                                  filter(saving.filterKey, QLatin1Char('*') + saving.suffix));
         },
         [this, saving, chosen](const QDialog &panel, int result) {
@@ -128,7 +127,7 @@ void WindowFilePanels::chooseFilesToOpen(const QStringList &suffixes,
     const QStringList all = QStringList{QStringLiteral("crvgrab")} + suffixes;
     m_sheets.presentDialog(
         [this, all](QWidget *window) {
-            QFileDialog *const panel = makeOpenPanel(window, m_folder);
+            QFileDialog *const panel = makeOpenPanel(window, folderFor(*window));
             panel->setWindowTitle(texts::localized("platform.files.openFiles"));
             panel->setFileMode(QFileDialog::ExistingFiles);
             panel->setNameFilters({filter("platform.files.documentsAndPictures", patternsOf(all)),
@@ -150,7 +149,7 @@ void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
 {
     m_sheets.presentDialog(
         [this, suffixes](QWidget *window) {
-            QFileDialog *const panel = makeOpenPanel(window, m_folder);
+            QFileDialog *const panel = makeOpenPanel(window, folderFor(*window));
             panel->setNameFilters({filter("platform.files.pictures", patternsOf(suffixes)),
                                    filter("platform.files.all", QStringLiteral("*"))});
             return panel;
@@ -162,6 +161,17 @@ void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
             remember(path);
             chosen(path);
         });
+}
+
+// What belongs to a file is looked for beside it, until the user goes elsewhere.
+QString WindowFilePanels::folderFor(const QWidget &window) const
+{
+    if (!m_folder.isEmpty())
+        return m_folder;
+    const QFileInfo file(window.windowFilePath());
+    if (file.isAbsolute() && file.absoluteDir().exists())
+        return file.absolutePath();
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 // A name typed with its folder leaves the panel in another one.

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QWidget;
 class WindowSheets;
 
 /// The file choosers of one window; they wait in the queue of the window's sheets.
@@ -36,8 +37,9 @@ private:
     };
     void chooseFileToSave(const Saving &saving, const QString &proposed, const Chosen &chosen);
     void save(const Saving &saving, const QString &path, const Chosen &chosen);
+    [[nodiscard]] QString folderFor(const QWidget &window) const;
     void remember(const QString &path);
 
     WindowSheets &m_sheets;
-    QString m_folder; ///< where the user was last
+    QString m_folder; ///< where the user was last; empty before
 };

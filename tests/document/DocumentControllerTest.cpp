@@ -1,6 +1,7 @@
 #include "document/DocumentController.h"
 
 #include "capture/DataSeries.h"
+#include "document/ApplicationPanels.h"
 #include "document/DocumentArchive.h"
 #include "document/DocumentKeys.h"
 #include "document/DocumentWindow.h"
@@ -9,14 +10,18 @@
 #include "imageview/GraphImageView.h"
 #include "platform/UserDefaults.h"
 #include "prefs/CurvegrabPrefs.h"
+#include "prefs/PrefsController.h"
+#include "ui_MyDocument.h"
 
 #include <QAction>
 #include <QDateTime>
+#include <QDialog>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -138,6 +143,41 @@ protected:
 };
 
 } // namespace
+
+TEST_F(DocumentControllerTest, changedPreferencesReachEveryDocumentThatIsStillOpen)
+{
+    controller.start(
+        {putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
+    document(0).window().close();
+    ASSERT_EQ(controller.documents().size(), 2U);
+    const auto markerSize = [this](std::size_t index) {
+        return document(index).window().ui().markerPreview->markerSize();
+    };
+    for (std::size_t index : {0U, 1U}) {
+        document(index).showDigitizing();
+        ASSERT_EQ(markerSize(index), 8.0F);
+    }
+    controller.editPreferences();
+    QDialog &panel = controller.panels().prefsController().prefsWindow();
+    auto *size = panel.findChild<QLineEdit *>(QStringLiteral("markerSizeTex1"));
+    size->selectAll();
+    QTest::keyClicks(size, QStringLiteral("12"));
+    QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("okButton")), Qt::LeftButton);
+    EXPECT_EQ(markerSize(0), 12.0F);
+    EXPECT_EQ(markerSize(1), 12.0F);
+}
+
+TEST_F(DocumentControllerTest, preferencesMayChangeWhileAWindowAsksWhetherToSave)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    document(0).updateChangeCount(ChangeKind::Done);
+    document(0).performClose();
+    controller.editPreferences();
+    QDialog &panel = controller.panels().prefsController().prefsWindow();
+    QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("okButton")), Qt::LeftButton);
+    press(sheetOf(document(0)), "document.close.dontSave");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.documents().size() == 1; }));
+}
 
 TEST_F(DocumentControllerTest, startsWithOneEmptyWindow)
 {

@@ -177,6 +177,20 @@ TEST_F(InfoPanelBesideDocument, showsNoDocumentOnceAWindowIsClosed)
     EXPECT_EQ(text("axisLabel1"), caption);
 }
 
+TEST_F(InfoPanelBesideDocument, showsTheNextDocumentOnceItBecomesKey)
+{
+    TestDocument closed({500, 400});
+    TestDocument next({600, 500});
+    activate(*closed.document);
+    closed.markSaved();
+    closed.document->window().close();
+    EXPECT_EQ(text("imageInfo0"), "No document");
+    activate(*next.document);
+    EXPECT_EQ(text("imageInfo0"), "600 × 500");
+    EXPECT_EQ(text("axisInfo1"), "{ 120.0, 100.0 }");
+    EXPECT_EQ(text("dataInfo0"), "1");
+}
+
 TEST_F(InfoPanelBesideDocument, showsThatADocumentHasNoPicture)
 {
     const TestDocument test{QSize(0, 0)};

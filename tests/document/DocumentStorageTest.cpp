@@ -215,6 +215,17 @@ TEST(DocumentStorage, aFrameOffTheScreenIsBroughtBack)
         document.window().frameGeometry()));
 }
 
+TEST(DocumentStorage, anOpenDrawerComesBackOnTheScreenToo)
+{
+    ArchiveDictionary root = rootWithFrame("{{0, 0}, {5000, 710}}", 0);
+    root.set(documentkeys::dataTableSize, {std::string("{300, 500}")});
+    const LoadedDocument loaded(archivedData(root));
+    const DocumentWindow &window = loaded.document.window();
+    EXPECT_TRUE(window.ui().dataTableDrawer->isOpen());
+    EXPECT_EQ(window.ui().dataTableDrawer->contentWidth(), 300);
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry()));
+}
+
 TEST(DocumentStorage, aScrolledPictureComesBackScrolled)
 {
     TestDocument test(QSize(1500, 1200));

@@ -1,8 +1,9 @@
-// Drives the program as a user does and takes the pictures of the help book on the way; the
-// document that it saves is the example document.
+// Drives the program as a user does and takes the pictures of the help book and of the README on
+// the way; the document that it saves is the example document.
 #include "e2e/ProgramUnderTest.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -24,14 +25,15 @@ bool fail(const char *what)
     return false;
 }
 
-/// Writes a compact picture, not wider than `widest`.
+/// Writes a compact picture of the help book, or one whose path is given, not wider than `widest`.
 bool keep(const QImage &image, const QString &name, int widest)
 {
     const QImage narrow =
         image.width() > widest ? image.scaledToWidth(widest, Qt::SmoothTransformation) : image;
     constexpr int smallest = 0; // the quality that compresses most
     return narrow.convertToFormat(QImage::Format_RGB888)
-               .save(QStringLiteral(CURVEGRAB_HELP_PICTURES "/") + name, "PNG", smallest) ||
+               .save(QDir(QStringLiteral(CURVEGRAB_HELP_PICTURES)).filePath(name), "PNG",
+                     smallest) ||
            fail("a picture cannot be written");
 }
 
@@ -71,12 +73,26 @@ void rest(ProgramUnderTest &program, QPointF point)
     }));
 }
 
+/// The second curve goes into the second series, and the README shows both.
+bool windowOfReadme(ProgramUnderTest &program)
+{
+    program.key("ctrl+bracketright");
+    for (int i = 0; i < 10; ++i) {
+        const double x = 0.5 + i;
+        program.click({100 + 850 * x / 10, 84 + 574 * (2 * std::sin(x) + 4) / 10});
+    }
+    rest(program, {700, 560});
+    const QImage window = ProgramUnderTest::windowImage();
+    return keep(window, QStringLiteral(CURVEGRAB_README_PICTURE), window.width());
+}
+
 bool parallelAxes()
 {
     const Copy example(QStringLiteral("damped-oscillation.png"));
     ProgramUnderTest program(example.path());
     if (!program.waitForPicture())
         return fail("no picture");
+    program.key("ctrl+i"); // the info panel is no part of these pictures
     if (!keep(program.pictureImage().copy(120, 90, 760, 520), "axes-parallel.png", detailWidth))
         return false;
     program.drag({200, 140}, {100, 84});
@@ -103,7 +119,9 @@ bool parallelAxes()
         return fail("no document");
     const QString target = QStringLiteral(CURVEGRAB_EXAMPLES "/damped-oscillation.crvgrab");
     QFile::remove(target);
-    return QFile::copy(example.documentPath(), target) || fail("the document cannot be copied");
+    if (!QFile::copy(example.documentPath(), target))
+        return fail("the document cannot be copied");
+    return windowOfReadme(program);
 }
 
 bool quadrangleAxes()
@@ -112,6 +130,7 @@ bool quadrangleAxes()
     ProgramUnderTest program(example.path());
     if (!program.waitForPicture())
         return fail("no picture");
+    program.key("ctrl+i"); // the info panel is no part of these pictures
     program.key("alt+a");
     program.key("q");
     program.drag({200, 140}, {120, 90});
@@ -128,6 +147,7 @@ bool polarAxes()
     ProgramUnderTest program(example.path());
     if (!program.waitForPicture())
         return fail("no picture");
+    program.key("ctrl+i"); // the info panel is no part of these pictures
     program.key("alt+a");
     program.key("o");
     rest(program, {10, 10});

@@ -1,7 +1,7 @@
 #include "e2e/ProgramUnderTest.h"
 
 #include <QColor>
-#include <QDir>
+#include <QCursor>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
@@ -50,12 +50,6 @@ ProgramUnderTest::ProgramUnderTest(const QString &picturePath)
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath("config"));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), m_folder.filePath("data"));
     environment.insert(QStringLiteral("CURVEGRAB_LANGUAGE"), QStringLiteral("en"));
-    // The info panel would float above the picture.
-    const QDir config(m_folder.filePath(QStringLiteral("config/curvegrab")));
-    QFile preferences(config.filePath(QStringLiteral("preferences.json")));
-    if (config.mkpath(QStringLiteral(".")) && preferences.open(QIODevice::WriteOnly))
-        preferences.write("{\"Info Panel Visible\": false}");
-    preferences.close();
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.start(QStringLiteral(CURVEGRAB_PROGRAM), {picturePath});
@@ -106,16 +100,53 @@ void ProgramUnderTest::xdotool(const QStringList &arguments)
     QProcess::execute(QStringLiteral("xdotool"), arguments);
 }
 
-QByteArray ProgramUnderTest::activeWindow()
+QByteArray ProgramUnderTest::answerOfXdotool(const QStringList &arguments)
 {
     QProcess process;
-    process.start(QStringLiteral("xdotool"), {"getactivewindow"});
+    process.start(QStringLiteral("xdotool"), arguments);
     process.waitForFinished();
     return process.readAllStandardOutput().trimmed();
 }
 
+QByteArray ProgramUnderTest::activeWindow() { return answerOfXdotool({"getactivewindow"}); }
+
+bool ProgramUnderTest::waitForActiveWindow(const QByteArray &window)
+{
+    return QTest::qWaitFor([&window] { return activeWindow() == window; }, patience);
+}
+
+QByteArray ProgramUnderTest::windowNamed(const QString &beginning)
+{
+    QByteArray window;
+    static_cast<void>(QTest::qWaitFor(
+        [&window, &beginning] {
+            window = answerOfXdotool({"search", "--onlyvisible", "--name", u'^' + beginning});
+            return !window.isEmpty();
+        },
+        patience));
+    return window;
+}
+
+QByteArray ProgramUnderTest::newWindow()
+{
+    const QByteArray before = activeWindow();
+    key(QStringLiteral("ctrl+n"));
+    static_cast<void>(QTest::qWaitFor(
+        [&before] { return !activeWindow().isEmpty() && activeWindow() != before; }, patience));
+    return activeWindow();
+}
+
+void ProgramUnderTest::moveWindow(const QByteArray &window, QPoint screenPosition)
+{
+    xdotool({"windowmove", window, QString::number(screenPosition.x()),
+             QString::number(screenPosition.y())});
+}
+
 void ProgramUnderTest::move(QPoint screenPosition)
 {
+    // For a pointer that does not move, xdotool would wait long.
+    if (QCursor::pos() == screenPosition)
+        return;
     xdotool({"mousemove", "--sync", QString::number(screenPosition.x()),
              QString::number(screenPosition.y())});
 }
@@ -130,6 +161,15 @@ QImage ProgramUnderTest::pictureImage() const
     const QSize size = QImage(m_picturePath).size();
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, m_pictureTopLeft.x(), m_pictureTopLeft.y(), size.width(), size.height())
+        .toImage();
+}
+
+QImage ProgramUnderTest::screenAround(QPointF point) const
+{
+    constexpr int side = 60;
+    const QPoint corner = onScreen(point) - QPoint(side / 2, side / 2);
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, corner.x(), corner.y(), side, side)
         .toImage();
 }
 

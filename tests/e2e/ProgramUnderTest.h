@@ -45,16 +45,28 @@ public:
     /// Puts the pointer at a point without pressing.
     void hover(QPointF point);
 
+    /// The id of the window that has the focus, as text.
+    [[nodiscard]] static QByteArray activeWindow();
+    /// Waits until the window has the focus; false after a while.
+    [[nodiscard]] static bool waitForActiveWindow(const QByteArray &window);
+    /// The id of the visible window whose title begins so.
+    [[nodiscard]] static QByteArray windowNamed(const QString &beginning);
+    /// Makes a new document and returns the id of its window, which has the focus.
+    [[nodiscard]] QByteArray newWindow();
+    static void moveWindow(const QByteArray &window, QPoint screenPosition);
+    /// Where a point of the picture is on the screen.
+    [[nodiscard]] QPoint onScreen(QPointF point) const;
+    /// What the screen shows at a point of the picture and around it, be it of which window it may.
+    [[nodiscard]] QImage screenAround(QPointF point) const;
+
     /// The rows of numbers that the save command writes; empty if no file came.
     [[nodiscard]] std::vector<std::vector<double>> savedData();
 
 private:
     [[nodiscard]] std::optional<QPoint> findPictureOnScreen() const;
-    [[nodiscard]] QPoint onScreen(QPointF point) const;
-    void move(QPoint screenPosition);
-    /// The id of the window that has the focus, as text.
-    [[nodiscard]] static QByteArray activeWindow();
+    static void move(QPoint screenPosition);
     static void xdotool(const QStringList &arguments);
+    [[nodiscard]] static QByteArray answerOfXdotool(const QStringList &arguments);
 
     QString m_picturePath;
     QTemporaryDir m_folder;

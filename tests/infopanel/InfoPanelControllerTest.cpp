@@ -89,6 +89,12 @@ TEST_F(InfoPanel, isTheApplicationsWhileItLives)
     EXPECT_EQ(gInfoPanelController, nullptr);
 }
 
+TEST_F(InfoPanel, staysTheApplicationsWhenOneThatNeverWasIsGone)
+{
+    static_cast<void>(InfoPanelController(m_prefs, m_item));
+    EXPECT_EQ(gInfoPanelController, &m_controller);
+}
+
 TEST_F(InfoPanel, startsHiddenWithTheItemThatShowsIt)
 {
     EXPECT_FALSE(isVisible());
@@ -115,6 +121,7 @@ TEST_F(InfoPanel, hasBoldTitlesInTheSmallFont)
 
 TEST_F(InfoPanel, floatsWithoutTakingTheKeyboard)
 {
+    m_controller.setIsVisible(true);
     const Qt::WindowFlags flags = m_controller.infoPanel().windowFlags();
     EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Tool);
     EXPECT_TRUE(flags.testFlag(Qt::WindowDoesNotAcceptFocus));

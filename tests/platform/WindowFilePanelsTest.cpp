@@ -184,6 +184,22 @@ TEST_F(WindowFilePanelsTest, theNextPanelOpensInTheFolderOfTheLastOne)
     EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(m_folder.path()));
 }
 
+TEST_F(WindowFilePanelsTest, theFirstPanelOpensBesideTheFileOfTheWindow)
+{
+    m_window.setWindowFilePath(inFolder(QStringLiteral("chart.crvgrab")));
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(m_folder.path()));
+}
+
+TEST_F(WindowFilePanelsTest, aFolderThatIsGoneIsNotOffered)
+{
+    m_window.setWindowFilePath(inFolder(QStringLiteral("gone/chart.crvgrab")));
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_TRUE(shown<QFileDialog>()->directory().exists());
+}
+
 TEST_F(WindowFilePanelsTest, theOpenPanelOffersPicturesAndEverything)
 {
     m_panels.choosePictureToOpen({QStringLiteral("png"), QStringLiteral("jpg")},

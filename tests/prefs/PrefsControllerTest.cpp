@@ -42,6 +42,57 @@ TEST_F(PrefsPanel, showsTheTenFactoryMarkersAtFirst)
     }
 }
 
+TEST_F(PrefsPanel, showsEveryStoredSetting)
+{
+    m_prefs.setAxisColor({0.1F, 0.2F, 0.3F, 0.4F});
+    m_prefs.setAxisThick(2.5F);
+    m_prefs.setAxisAnchorSize(9.5F);
+    m_prefs.setGuideColor({0.5F, 0.6F, 0.7F, 0.8F});
+    m_prefs.setGuideThick(3.5F);
+    m_prefs.setGuideInterval(0.13F);
+    m_prefs.setPdfScale(2.5F);
+    m_prefs.setCopyWithTitle(false);
+    m_controller.editPreferences();
+    EXPECT_EQ(well("axisColor")->color(), (DeviceColor{0.1F, 0.2F, 0.3F, 0.4F}));
+    EXPECT_EQ(text("axisThickText"), "2.5");
+    EXPECT_EQ(text("anchorSizeText"), "9.5");
+    EXPECT_EQ(well("guideColor")->color(), (DeviceColor{0.5F, 0.6F, 0.7F, 0.8F}));
+    EXPECT_EQ(text("guideThickText"), "3.5");
+    EXPECT_EQ(text("guideRefreshText"), "0.13");
+    EXPECT_EQ(text("pdfReadingScaleText"), "250");
+    EXPECT_FALSE(control<QCheckBox>("copyWithTitleCheck")->isChecked());
+    EXPECT_TRUE(control<QCheckBox>("saveWithTitleCheck")->isChecked());
+}
+
+TEST_F(PrefsPanel, showsTheStoredMarkerOfEachSeries)
+{
+    const auto colorOf = [](int series) {
+        return DeviceColor{0.1F * static_cast<float>(series), 0.25F, 0.5F, 0.75F};
+    };
+    for (int series = 0; series < 10; ++series) {
+        PrefsDictionary style = m_prefs.plotPrefsForSeries(series);
+        m_prefs.setColor(colorOf(series), style);
+        m_prefs.setShape((series + 2) % 4, style);
+        m_prefs.setSize(3.5F + static_cast<float>(series), style);
+        m_prefs.setPlotPrefs(style, series);
+    }
+    m_controller.editPreferences();
+    for (int series = 0; series < 10; ++series) {
+        EXPECT_EQ(markerColor(series)->color(), colorOf(series)) << series;
+        EXPECT_EQ(markerStyle(series)->selectedSegment(), (series + 2) % 4) << series;
+        EXPECT_EQ(markerSize(series)->text().toStdString(), std::to_string(3 + series) + ".5");
+    }
+}
+
+TEST_F(PrefsPanel, storesEachKindOfTitlesByItself)
+{
+    m_controller.editPreferences();
+    press("saveWithTitleCheck");
+    press("okButton");
+    EXPECT_TRUE(m_prefs.copyWithTitle());
+    EXPECT_FALSE(m_prefs.saveWithTitle());
+}
+
 TEST_F(PrefsPanel, isShownOnlyUntilItEnds)
 {
     EXPECT_FALSE(m_controller.prefsWindow().isVisible());
@@ -153,6 +204,14 @@ TEST_F(PrefsPanel, truncatesThePercentageThatItShows)
     EXPECT_EQ(text("pdfReadingScaleText"), "104");
     press("okButton");
     EXPECT_EQ(m_prefs.pdfScale(), 1.04F);
+}
+
+// As a double the product would be a little less than 115.
+TEST_F(PrefsPanel, computesThePercentageAsAFloat)
+{
+    m_prefs.setPdfScale(1.15F);
+    m_controller.editPreferences();
+    EXPECT_EQ(text("pdfReadingScaleText"), "115");
 }
 
 TEST_F(PrefsPanel, okRewritesUntouchedValuesFromTheirRoundedText)
