@@ -1,5 +1,6 @@
 #include "document/TestDocument.h"
 
+#include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
 #include "document/SampleRoots.h"
 
@@ -172,6 +173,31 @@ TEST_F(DocumentSavingTest, revertingShowsTheFileAgain)
     EXPECT_FALSE(test.action("undo")->isEnabled());
     test.command("saveDocument");
     EXPECT_TRUE(sheets().waitingCount() == 0);
+}
+
+TEST_F(DocumentSavingTest, revertingLeadsToWhatOpeningShows)
+{
+    // Six digits are written of an anchor, and opening makes the converter from them.
+    test.setAxes();
+    QTest::mouseClick(test.ui().digitizingTabButton, Qt::LeftButton);
+    ArchiveDictionary root = document().rootDictionary();
+    ArchiveDictionary axes = *root.dictionaryForKey("CurrentAxes Data");
+    axes.set("Anchor Position 2", {std::string("{1234.56789, 17}")});
+    root.set("CurrentAxes Data", {axes});
+    saveAs(path());
+    putContent(path(), documentarchive::archivedData(root));
+    test.click(300, 250);
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !document().isDocumentEdited(); }));
+    TestServices services;
+    MyDocument opened(services);
+    ASSERT_TRUE(
+        opened.loadDataRepresentation(contentOf(path()), QStringLiteral("Curvegrab X Document")));
+    opened.showWindow();
+    ASSERT_NE(opened.cursorGuide().converter(), nullptr);
+    EXPECT_TRUE(document().cursorGuide().converter()->isEqualConverterAs(
+        *opened.cursorGuide().converter()));
 }
 
 TEST_F(DocumentSavingTest, revertingToADamagedFileChangesNothing)

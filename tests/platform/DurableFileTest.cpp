@@ -52,18 +52,25 @@ protected:
     {
         return m_folder.filePath(QString::fromLatin1(name));
     }
+    [[nodiscard]] QStringList filesInFolder() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+    }
 
 private:
     QTemporaryDir m_folder;
 };
 
-/// A block that shows whether it is whole: one letter all through.
-QByteArray block(int number) { return {qsizetype{150'000} + number % 7, char('a' + number % 26)}; }
+/// A block that shows whether it is whole: one letter all through, which tells the length.
+QByteArray block(int number)
+{
+    const int letter = number % 26;
+    return {qsizetype{150'000} + letter, static_cast<char>('a' + letter)};
+}
 
 bool isWholeBlock(const QByteArray &bytes)
 {
-    return !bytes.isEmpty() && bytes == block(bytes.at(0) - 'a').left(bytes.size()) &&
-           bytes.size() >= 150'000;
+    return !bytes.isEmpty() && bytes.at(0) >= 'a' && bytes == block(bytes.at(0) - 'a');
 }
 
 void saveForEver(const QString &path, int toParent)
@@ -119,6 +126,44 @@ TEST_F(DurableFileTest, keepsThePermissions)
     EXPECT_EQ(QFile::permissions(path()) &
                   (permissions | QFile::ReadOther | QFile::WriteGroup | QFile::ExeOwner),
               permissions);
+}
+
+TEST_F(DurableFileTest, aNewFileHasThePermissionsThatTheUserGivesNewFiles)
+{
+    QFile other(path("other"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    ASSERT_EQ(durablefile::write(path(), "new"), std::nullopt);
+    EXPECT_EQ(QFile::permissions(path()), QFile::permissions(path("other")));
+}
+
+TEST_F(DurableFileTest, whatAKillLeftBesideTheFileIsTakenAway)
+{
+    ASSERT_EQ(durablefile::write(path(), "old"), std::nullopt);
+    ASSERT_EQ(durablefile::write(path(".chart.crvgrab.saving"), "left"), std::nullopt);
+    ASSERT_EQ(durablefile::write(path(), "new"), std::nullopt);
+    EXPECT_EQ(contentOf(path()), "new");
+    EXPECT_EQ(filesInFolder(), QStringList{"chart.crvgrab"});
+}
+
+// Where a file needs a name while it is written: here there is no room for the usual one.
+TEST_F(DurableFileTest, aFileWithALongNameIsReplacedToo)
+{
+    const QByteArray name(248, 'n');
+    ASSERT_EQ(durablefile::write(path(name.constData()), "old"), std::nullopt);
+    ASSERT_EQ(durablefile::write(path(name.constData()), "new"), std::nullopt);
+    EXPECT_EQ(contentOf(path(name.constData())), "new");
+    EXPECT_EQ(filesInFolder(), QStringList{QString::fromLatin1(name)});
+}
+
+TEST_F(DurableFileTest, aLinkToALinkStaysOne)
+{
+    ASSERT_EQ(durablefile::write(path("real"), "old"), std::nullopt);
+    ASSERT_TRUE(QFile::link(path("real"), path("link")));
+    ASSERT_TRUE(QFile::link(path("link"), path("second")));
+    EXPECT_EQ(durablefile::write(path("second"), "new"), std::nullopt);
+    EXPECT_TRUE(QFileInfo(path("link")).isSymLink());
+    EXPECT_TRUE(QFileInfo(path("second")).isSymLink());
+    EXPECT_EQ(contentOf(path("real")), "new");
 }
 
 TEST_F(DurableFileTest, aLinkStaysALink)
@@ -195,6 +240,8 @@ TEST_F(DurableFileTest, aProcessKilledAtAnyMomentLeavesAWholeFile)
     ASSERT_EQ(durablefile::write(path(), block(0)), std::nullopt);
     for (int i = 0; i < kills; ++i) {
         killWhileSaving(path(), random);
-        ASSERT_TRUE(isWholeBlock(contentOf(path()))) << "kill " << i;
+        const QByteArray content = contentOf(path());
+        ASSERT_TRUE(isWholeBlock(content))
+            << "kill " << i << ", " << content.size() << " bytes, " << content.left(20).constData();
     }
 }
