@@ -23,6 +23,10 @@ void ChosenButtonStyle::drawPrimitive(PrimitiveElement element, const QStyleOpti
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
+    // The grey of a chosen button that is disabled would hide its faint symbol.
+    const bool isFlat = option->state.testFlag(State_AutoRaise);
+    if (isFlat && !option->state.testFlag(State_Enabled))
+        return;
     QStyleOption tinted = *option;
     tinted.palette.setColor(QPalette::Button, mixed(option->palette.color(QPalette::Button),
                                                     option->palette.color(QPalette::Highlight)));

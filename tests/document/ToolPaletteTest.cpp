@@ -51,6 +51,17 @@ TEST(ToolPalette, thePointerIsChosenFirst)
     EXPECT_EQ(test.document->graphView().forcedMode(), std::nullopt);
 }
 
+TEST(ToolPalette, theChosenToolStandsOutOnlyWhereThereIsAPicture)
+{
+    const auto background = [](QToolButton *tool) {
+        return tool->grab().toImage().pixelColor(3, tool->height() / 2);
+    };
+    const TestDocument test;
+    EXPECT_NE(background(test.ui().pointerToolButton), background(test.ui().handToolButton));
+    const TestDocument empty{QSize(0, 0)};
+    EXPECT_EQ(background(empty.ui().pointerToolButton), background(empty.ui().handToolButton));
+}
+
 TEST(ToolPalette, eachToolForcesItsMode)
 {
     const TestDocument test;
