@@ -99,13 +99,16 @@ void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
     m_isBusy = false;
     m_progressTimer.stop();
     m_statusBar.clearMessage();
+    const Saved next = std::exchange(m_next, {});
     if (reason) {
         refused(path, *reason);
         return;
     }
     m_document.wasSavedTo(path);
-    if (saved)
-        saved();
+    for (const Saved &step : {saved, next}) {
+        if (step)
+            step();
+    }
 }
 
 void DocumentSaving::refused(const QString &path, const QString &reason)
@@ -120,6 +123,7 @@ void DocumentSaving::refused(const QString &path, const QString &reason)
 
 void DocumentSaving::askToSave(Saved agreed)
 {
+    m_agreed = std::move(agreed);
     if (m_isAsking)
         return;
     m_isAsking = true;
@@ -127,12 +131,13 @@ void DocumentSaving::askToSave(Saved agreed)
         {texts::localized("document.close.title").arg(m_document.displayName()),
          texts::localized("document.close.text"), texts::localized("document.close.save"),
          texts::localized("Cancel"), texts::localized("document.close.dontSave")},
-        [this, agreed = std::move(agreed)](SheetAnswer answer) {
+        [this](SheetAnswer answer) {
             m_isAsking = false;
+            const Saved agreedTo = std::exchange(m_agreed, {});
             if (answer == SheetAnswer::Default)
-                save(agreed);
+                save(agreedTo);
             else if (answer == SheetAnswer::Other)
-                agreed();
+                agreedTo();
         });
 }
 

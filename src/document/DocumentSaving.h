@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <utility>
 
 class MyDocument;
 class QStatusBar;
@@ -25,12 +26,15 @@ public:
     void save(Saved saved);
     void saveAs(Saved saved);
     /// Asks whether changes are to be saved; `agreed` runs after they were, or if they need not be.
+    /// Asked once more before the answer, the last `agreed` counts.
     void askToSave(Saved agreed);
     /// Asks, and then shows what the file has.
     void revert();
 
     /// A picture is still being encoded for a save.
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
+    /// What comes after the save that is under way, too; nothing does if the disk refuses it.
+    void whenSaved(Saved next) { m_next = std::move(next); }
 
 private:
     void writeTo(const QString &path, const Saved &saved);
@@ -43,6 +47,8 @@ private:
     const WindowDialogs &m_dialogs;
     QStatusBar &m_statusBar;
     QTimer m_progressTimer;
+    Saved m_next;
+    Saved m_agreed;
     bool m_isBusy = false;
     bool m_isAsking = false;
 };

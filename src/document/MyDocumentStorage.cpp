@@ -305,15 +305,20 @@ void MyDocument::revertToLoaded()
     m_fileStamp = durablefile::stampOf(m_fileUrl.toLocalFile());
 }
 
+// A save under way has the last word on whether there is anything to ask.
 void MyDocument::closeThen(std::function<void()> closed)
 {
+    if (m_saving->isBusy()) {
+        m_saving->whenSaved([this, closed = std::move(closed)] { closeThen(closed); });
+        return;
+    }
     const auto close = [this, closed = std::move(closed)] {
         m_closeAgreed = true;
         m_window->close();
         if (closed)
             closed();
     };
-    if (!isDocumentEdited() && !m_saving->isBusy()) {
+    if (!isDocumentEdited()) {
         close();
         return;
     }

@@ -340,6 +340,33 @@ TEST_F(DocumentControllerTest, aCancelledQuestionEndsTheQuitting)
     EXPECT_EQ(controller.documents().size(), 1U);
 }
 
+TEST_F(DocumentControllerTest, aCancelledQuestionInTheMiddleKeepsTheRest)
+{
+    controller.start(
+        {putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
+    document(0).updateChangeCount(ChangeKind::Done);
+    document(1).updateChangeCount(ChangeKind::Done);
+    controller.terminate();
+    press(sheetOf(document(0)), "document.close.dontSave");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return controller.documents().size() == 2; }));
+    press(sheetOf(document(0)), "Cancel");
+    QCoreApplication::processEvents();
+    ASSERT_EQ(controller.documents().size(), 2U);
+    EXPECT_TRUE(document(0).isDocumentEdited());
+    EXPECT_TRUE(document(1).window().isVisible());
+}
+
+TEST_F(DocumentControllerTest, quittingGoesOnFromAQuestionThatIsOpenAlready)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    document(0).updateChangeCount(ChangeKind::Done);
+    EXPECT_FALSE(document(0).window().close());
+    QMessageBox *question = sheetOf(document(0));
+    controller.terminate();
+    press(question, "document.close.dontSave");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.documents().empty(); }));
+}
+
 TEST_F(DocumentControllerTest, whatACrashLeftIsBroughtBack)
 {
     leaveUnsaved("chart.crvgrab");

@@ -279,3 +279,34 @@ TEST(DocumentSaving, aLargePictureIsEncodedOnceAndInTheBackground)
     EXPECT_FALSE(test.document->isDocumentEdited());
     EXPECT_EQ(test.document->dataSeries().maxRows(), 2);
 }
+
+TEST(DocumentSaving, closingDuringASaveWaitsForItAndAsksNothing)
+{
+    TestDocument test(QSize(3000, 2000));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.crvgrab"));
+    test.document->setFileUrl(QUrl::fromLocalFile(path));
+    test.document->saveDocument();
+    EXPECT_FALSE(test.document->window().close());
+    ASSERT_TRUE(QTest::qWaitFor([&test] { return test.services.closedDocuments == 1; }, 60'000));
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+    EXPECT_TRUE(test.services.sheets->presented().empty());
+}
+
+TEST(DocumentSaving, closingDuringASaveThatFailsKeepsTheWindow)
+{
+    TestDocument test(QSize(3000, 2000));
+    const QTemporaryDir folder;
+    putContent(folder.filePath(QStringLiteral("file")), "old");
+    test.document->setFileUrl(
+        QUrl::fromLocalFile(folder.filePath(QStringLiteral("file/large.crvgrab"))));
+    test.document->saveDocument();
+    EXPECT_FALSE(test.document->window().close());
+    ASSERT_TRUE(
+        QTest::qWaitFor([&test] { return test.services.sheets->waitingCount() == 1; }, 60'000));
+    test.services.sheets->answerFirst();
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(test.services.sheets->presented().back().message,
+              qtTrId("document.close.title").arg(test.document->displayName()));
+}
