@@ -76,9 +76,15 @@ private:
             passToolkitOption(argument);
     }
 
+    // An option in place of OUT means that OUT was forgotten; a file of such a name takes "=".
     void readExport()
     {
-        if (const std::optional<QString> output = value()) {
+        const bool isForgotten = !m_attached && !m_rest.isEmpty() &&
+                                 m_rest.first().startsWith(u'-') &&
+                                 m_rest.first() != CommandLine::standardStream;
+        if (isForgotten) {
+            fail("app.usage.noValue", m_option);
+        } else if (const std::optional<QString> output = value()) {
             choose(Action::Export);
             m_line.output = *output;
         }

@@ -117,6 +117,39 @@ TEST(CommandLine, aForgottenOutputDoesNotOverwriteADocument)
     EXPECT_EQ(mistakeIn({"--export", "A.CRVGRAB", "b.crvgrab"}), "app.usage.outputIsDocument");
 }
 
+TEST(CommandLine, anOptionIsNoOutput)
+{
+    EXPECT_EQ(mistakeIn({"--export", "--titles", "a.crvgrab"}), "app.usage.noValue");
+    EXPECT_EQ(mistakeIn({"--export", "--", "a.crvgrab"}), "app.usage.noValue");
+    EXPECT_EQ(CommandLine::parse({"--export=--titles", "a.crvgrab"}).output,
+              QStringLiteral("--titles"));
+}
+
+TEST(CommandLine, theSeriesAreReadInTheOrderOfTheNumbers)
+{
+    const CommandLine line = CommandLine::parse({"--export", "-", "--series", "3-1", "a"});
+    EXPECT_EQ(line.series, std::optional(IndexSet{0, 1, 2}));
+    EXPECT_FALSE(line.mistake);
+}
+
+TEST(CommandLine, aSeriesThatIsNotThereIsNamed)
+{
+    const CommandLine line = CommandLine::parse({"--export", "-", "--series", "11", "a"});
+    ASSERT_TRUE(line.mistake);
+    EXPECT_STREQ(line.mistake->text, "app.usage.series");
+    EXPECT_EQ(line.mistake->argument, QStringLiteral("11"));
+}
+
+TEST(CommandLine, optionsMayStandBehindTheFiles)
+{
+    const CommandLine line =
+        CommandLine::parse({"a", "--no-titles", "b", "--series=2", "--export", "out.txt", "c"});
+    EXPECT_FALSE(line.mistake);
+    EXPECT_EQ(line.files, QStringList({"a", "b", "c"}));
+    EXPECT_EQ(line.series, std::optional(IndexSet{1}));
+    EXPECT_EQ(line.titles, false);
+}
+
 TEST(CommandLine, optionsOfTheToolkitPassWithTheirValues)
 {
     const CommandLine line =

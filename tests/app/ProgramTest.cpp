@@ -145,6 +145,22 @@ TEST_F(Program, aFullDiskBehindStandardOutputEndsWithOne)
     }
 }
 
+TEST_F(Program, aReaderThatHasEnoughIsNoError)
+{
+    // More than a pipe holds, so that the writer notices that nobody reads on.
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({20'000}));
+    QProcess shell;
+    shell.start(QStringLiteral("/bin/bash"),
+                {QStringLiteral("-c"),
+                 QStringLiteral("set -o pipefail; \"$0\" --export - \"$1\" | head -n 1; exit $?"),
+                 QStringLiteral(CURVEGRAB_PROGRAM), file});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.readAllStandardOutput(), "Series_01_x\tSeries_01_y\n");
+    EXPECT_EQ(shell.readAllStandardError(), QByteArray());
+    constexpr int endedByBrokenPipe = 128 + 13;
+    EXPECT_EQ(shell.exitCode(), endedByBrokenPipe);
+}
+
 TEST_F(Program, withoutADisplayAWindowIsRefusedWithAnExplanation)
 {
     const Result result = program({});
