@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -119,6 +120,7 @@ int main(int argc, char **argv)
     documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
     documents.start(commandLine.files);
-    prefs.applicationDidFinishLaunching();
+    // The panels come after the windows of the documents.
+    QTimer::singleShot(0, &application, [&prefs] { prefs.applicationDidFinishLaunching(); });
     return QApplication::exec();
 }
