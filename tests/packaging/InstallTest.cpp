@@ -35,6 +35,7 @@ Result run(const QString &program, const QStringList &arguments,
            const QMap<QString, QString> &variables = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8")); // what tools say
     for (auto variable = variables.begin(); variable != variables.end(); ++variable)
         environment.insert(variable.key(), variable.value());
     QProcess process;
