@@ -6,6 +6,7 @@
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
 #include "document/SymbolIcons.h"
+#include "platform/Texts.h"
 #include "ui_MyDocument.h"
 
 #include <QAbstractItemModel>
@@ -16,6 +17,8 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <functional>
+#include <initializer_list>
 
 namespace {
 // Two series stand side by side in the drawer; a wider column is one drag away.
@@ -44,6 +47,7 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     setAcceptDrops(true);
     applyIcons();
     tintChosenButtons();
+    keepRoomForPolarTexts();
     keepPlacesOfBoxes();
     keepSizeWithoutPicture();
     setMinimumSize(minimumSizeHint().expandedTo({0, smallestHeight})); // the drawer adds its own
@@ -57,6 +61,29 @@ void DocumentWindow::tintChosenButtons()
         if (button->isCheckable())
             button->setStyle(style);
     }
+}
+
+// Polar axes give some controls other texts. Those of both kinds have room from the start, so that
+// the window's smallest size holds for both.
+void DocumentWindow::keepRoomForPolarTexts()
+{
+    const auto keepRoom = [](QWidget *control, const std::function<void(const char *)> &setText,
+                             std::initializer_list<const char *> keys) {
+        int width = 0;
+        for (const char *key : keys) {
+            setText(key);
+            width = std::max(width, control->sizeHint().width());
+        }
+        control->setMinimumWidth(width);
+    };
+    QCheckBox *const sort = m_ui->sortCheck;
+    keepRoom(sort, [sort](const char *key) { sort->setText(texts::localized(key)); },
+             {"SortByT", "SortByX"});
+    QComboBox *const automatic = m_ui->autoXModePopUp;
+    automatic->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    keepRoom(automatic,
+             [automatic](const char *key) { automatic->setItemText(1, texts::localized(key)); },
+             {"EqualT", "EqualX"});
 }
 
 // The boxes of the X axis and of the angle take turns in one place. In a narrow window the boxes

@@ -2,6 +2,31 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
+#include <QStylePainter>
+
+namespace {
+
+/// A line of text that ends in dots where there is no room for all of it.
+class HintLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStylePainter painter(this);
+        const QString shown =
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+        painter.drawItemText(contentsRect(),
+                             static_cast<int>(QStyle::visualAlignment(
+                                 layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)),
+                             palette(), isEnabled(), shown, foregroundRole());
+    }
+};
+
+} // namespace
 
 StatusLine::StatusLine(QWidget *parent)
     : QWidget(parent)
@@ -9,19 +34,17 @@ StatusLine::StatusLine(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(4, 0, 4, 0);
     row->setSpacing(14);
-    m_hint = addLabel("statusHint", 1);
-    m_picturePosition = addLabel("statusPicture", 0);
-    m_graphPosition = addLabel("statusGraph", 0);
-    m_series = addLabel("statusSeries", 0);
+    m_hint = addLabel(new HintLabel(this), "statusHint", 1);
+    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_picturePosition = addLabel(new QLabel(this), "statusPicture", 0);
+    m_graphPosition = addLabel(new QLabel(this), "statusGraph", 0);
+    m_series = addLabel(new QLabel(this), "statusSeries", 0);
 }
 
-QLabel *StatusLine::addLabel(const char *name, int stretch)
+QLabel *StatusLine::addLabel(QLabel *label, const char *name, int stretch)
 {
-    auto *label = new QLabel(this);
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
-    if (stretch > 0)
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout *>(layout())->addWidget(label, stretch);
     return label;
 }

@@ -19,7 +19,7 @@ public:
     void setSeries(const QString &text);
 
 private:
-    QLabel *addLabel(const char *name, int stretch);
+    QLabel *addLabel(QLabel *label, const char *name, int stretch);
 
     QLabel *m_hint;
     QLabel *m_picturePosition;

@@ -70,6 +70,7 @@ void ChoosePageController::chooseAPageOf(PageSource &document, float withScale, 
         makePanel(onWindow);
     m_myDocument = &document;
     m_scale = withScale;
+    keepWidthOfPageNumbers();
     m_finished = std::move(finished);
     m_panel->setWindowTitle(texts::localized("imageview.choose-page.title")
                                 .replace(QStringLiteral("%1"), document.name()));
@@ -95,11 +96,22 @@ void ChoosePageController::setPageImage(int page)
     m_slowPreview.start(timeBeforeRenderingIsTold);
     m_ui->pageField->setText(numberText(page));
     m_ui->pageSlider->setPage(page);
-    m_ui->currentPageText->setText(
-        texts::localized("PageOfTotal")
-            .arg(numberText(page), numberText(m_myDocument->numberOfPages())));
+    m_ui->currentPageText->setText(pageOfTotal(page));
     m_ui->prevButton->setEnabled(page > 1);
     m_ui->nextButton->setEnabled(page < m_myDocument->numberOfPages());
+}
+
+// The buttons beside them stay in their places while pages are turned.
+void ChoosePageController::keepWidthOfPageNumbers()
+{
+    m_ui->currentPageText->setText(pageOfTotal(m_myDocument->numberOfPages()));
+    m_ui->currentPageText->setMinimumWidth(m_ui->currentPageText->sizeHint().width());
+}
+
+QString ChoosePageController::pageOfTotal(int page) const
+{
+    return texts::localized("PageOfTotal")
+        .arg(numberText(page), numberText(m_myDocument->numberOfPages()));
 }
 
 // The picture of a page that was left meanwhile is not worth a flicker.

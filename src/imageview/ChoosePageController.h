@@ -59,6 +59,8 @@ private:
     void makePanel(QWidget *window);
     void connectPanel();
     void ended(int result);
+    void keepWidthOfPageNumbers();
+    [[nodiscard]] QString pageOfTotal(int page) const;
     void showPreview(int page, const QImage &preview);
     [[nodiscard]] bool turnPageByKey(int key, bool inField);
 

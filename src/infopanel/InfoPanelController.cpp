@@ -162,6 +162,7 @@ void InfoPanelController::updateDataInfoWith(const InfoPanelDocument *document)
 void InfoPanelController::showImageInfo(const InfoFacts *facts)
 {
     m_ui->imageInfo0->setText(infotexts::imageInfo(facts));
+    keepWidth();
 }
 
 void InfoPanelController::showAxisInfo(const InfoFacts *facts)
@@ -188,6 +189,8 @@ void InfoPanelController::keepWidth()
     };
     keep(0, m_axisLabel);
     keep(1, m_axisInfo);
+    keep(1, m_dataInfo);
+    keep(1, std::array{m_ui->imageInfo0});
 }
 
 void InfoPanelController::showDataInfo(const InfoFacts *facts)
@@ -195,4 +198,5 @@ void InfoPanelController::showDataInfo(const InfoFacts *facts)
     const auto info = infotexts::dataInfo(facts);
     for (std::size_t row = 0; row < m_dataInfo.size(); ++row)
         m_dataInfo.at(row)->setText(info.at(row));
+    keepWidth();
 }

@@ -37,7 +37,7 @@
     </message>
     <message id="document.axes.whole">
         <source>Whole pictu&amp;re</source>
-        <translation>&amp;Ganzes Bild</translation>
+        <translation>Gan&amp;zes Bild</translation>
     </message>
     <message id="document.axes.whole.tip">
         <source>Span the axes over the whole picture and read out pixels</source>
@@ -53,7 +53,7 @@
     </message>
     <message id="document.axes.maxx">
         <source>Ma&amp;x</source>
-        <translation>&amp;Max</translation>
+        <translation>Ma&amp;x</translation>
     </message>
     <message id="document.axes.miny">
         <source>Mi&amp;n</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="document.axes.maxy">
         <source>&amp;Max</source>
-        <translation>Ma&amp;x</translation>
+        <translation>&amp;Max</translation>
     </message>
     <message id="document.axes.minx.name">
         <source>Minimum X value</source>
@@ -97,7 +97,7 @@
     </message>
     <message id="document.axes.logx">
         <source>Lo&amp;garithmic</source>
-        <translation>Loga&amp;rithmisch</translation>
+        <translation>Lo&amp;garithmisch</translation>
     </message>
     <message id="document.axes.logx.tip">
         <source>The X axis is logarithmic (base 10)</source>
@@ -141,7 +141,7 @@
     </message>
     <message id="document.axes.ccw">
         <source>&amp;Counter-clockwise</source>
-        <translation>Gegen den &amp;Uhrzeigersinn</translation>
+        <translation>Lin&amp;ksherum</translation>
     </message>
     <message id="document.axes.ccw.tip">
         <source>Angles grow counter-clockwise</source>
@@ -149,7 +149,7 @@
     </message>
     <message id="document.axes.cw">
         <source>Cloc&amp;kwise</source>
-        <translation>Im Uhrz&amp;eigersinn</translation>
+        <translation>&amp;Rechtsherum</translation>
     </message>
     <message id="document.axes.cw.tip">
         <source>Angles grow clockwise</source>
@@ -293,7 +293,7 @@
     </message>
     <message id="document.data.lockx">
         <source>Loc&amp;k</source>
-        <translation>Fe&amp;st</translation>
+        <translation>F&amp;est</translation>
     </message>
     <message id="document.data.lockx.tip">
         <source>Give new points the value typed here</source>
@@ -301,7 +301,7 @@
     </message>
     <message id="document.data.locky">
         <source>L&amp;ock</source>
-        <translation>F&amp;est</translation>
+        <translation>Fe&amp;st</translation>
     </message>
     <message id="document.data.locky.tip">
         <source>Give new points the value typed here</source>
@@ -493,7 +493,7 @@
     </message>
     <message id="document.command.close">
         <source>&amp;Close Window</source>
-        <translation>Fenster s&amp;chließen</translation>
+        <translation>F&amp;enster schließen</translation>
     </message>
     <message id="document.command.quit">
         <source>&amp;Quit</source>
@@ -517,7 +517,7 @@
     </message>
     <message id="document.command.copy">
         <source>&amp;Copy Selected Series</source>
-        <translation>&amp;Ausgewählte Datenreihen kopieren</translation>
+        <translation>Ausgewählte Datenreihen &amp;kopieren</translation>
     </message>
     <message id="document.command.paste">
         <source>&amp;Paste Picture</source>
@@ -529,11 +529,11 @@
     </message>
     <message id="document.command.selectAll">
         <source>Select &amp;All Series</source>
-        <translation>Alle &amp;Datenreihen auswählen</translation>
+        <translation>&amp;Alle Datenreihen auswählen</translation>
     </message>
     <message id="document.command.axisSetting">
         <source>&amp;Axis Setting</source>
-        <translation>Achsen &amp;festlegen</translation>
+        <translation>Ach&amp;sen festlegen</translation>
     </message>
     <message id="document.command.digitizing">
         <source>&amp;Digitizing</source>
@@ -545,27 +545,27 @@
     </message>
     <message id="document.command.zoomIn">
         <source>Zoom &amp;In</source>
-        <translation>V&amp;ergrößern</translation>
+        <translation>&amp;Vergrößern</translation>
     </message>
     <message id="document.command.zoomOut">
         <source>Zoom &amp;Out</source>
-        <translation>&amp;Verkleinern</translation>
+        <translation>Verklei&amp;nern</translation>
     </message>
     <message id="document.command.fitWidth">
         <source>Fit &amp;Width</source>
-        <translation>An &amp;Breite anpassen</translation>
+        <translation>&amp;An Breite anpassen</translation>
     </message>
     <message id="document.command.fitHeight">
         <source>Fit &amp;Height</source>
-        <translation>&amp;An Höhe anpassen</translation>
+        <translation>An &amp;Höhe anpassen</translation>
     </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
-        <translation>&amp;Nach links drehen</translation>
+        <translation>Nach links &amp;drehen</translation>
     </message>
     <message id="document.command.rotateCw">
         <source>Turn &amp;Right</source>
-        <translation>Nach &amp;rechts drehen</translation>
+        <translation>&amp;Nach rechts drehen</translation>
     </message>
     <message id="document.command.pointerTool">
         <source>&amp;Pointer Tool</source>
@@ -577,15 +577,15 @@
     </message>
     <message id="document.command.zoomInTool">
         <source>Zoom &amp;In Tool</source>
-        <translation>Lupe: &amp;Vergrößern</translation>
+        <translation>&amp;Lupe: Vergrößern</translation>
     </message>
     <message id="document.command.zoomOutTool">
         <source>Zoom &amp;Out Tool</source>
-        <translation>&amp;Lupe: Verkleinern</translation>
+        <translation>Lupe: &amp;Verkleinern</translation>
     </message>
     <message id="document.command.trimTool">
         <source>&amp;Trim Tool</source>
-        <translation>Zuschn&amp;eiden</translation>
+        <translation>Zus&amp;chneiden</translation>
     </message>
     <message id="document.command.parallel">
         <source>&amp;Parallel Axes</source>
@@ -605,7 +605,7 @@
     </message>
     <message id="document.command.wholePosition">
         <source>&amp;Whole Picture</source>
-        <translation>Ganzes &amp;Bild</translation>
+        <translation>&amp;Ganzes Bild</translation>
     </message>
     <message id="document.command.nextSeries">
         <source>&amp;Next Series</source>
@@ -617,11 +617,11 @@
     </message>
     <message id="document.command.drawMarkers">
         <source>Draw &amp;Markers</source>
-        <translation>&amp;Marker zeichnen</translation>
+        <translation>Marker &amp;zeichnen</translation>
     </message>
     <message id="document.command.drawBoth">
         <source>Draw Markers &amp;and Lines</source>
-        <translation>Marker &amp;und Linien zeichnen</translation>
+        <translation>&amp;Marker und Linien zeichnen</translation>
     </message>
     <message id="document.command.drawLines">
         <source>Draw &amp;Lines</source>
@@ -633,7 +633,7 @@
     </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
-        <translation>Fenster an &amp;Bild anpassen</translation>
+        <translation>&amp;Fenster an Bild anpassen</translation>
     </message>
     <message id="document.command.about">
         <source>&amp;About Curvegrab X</source>

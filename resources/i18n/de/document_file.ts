@@ -169,7 +169,7 @@ Sie können, was davon übrig ist, als neues Dokument öffnen. Die Datei selbst 
     </message>
     <message id="document.command.openRecent">
         <source>Open &amp;Recent</source>
-        <translation>Zuletzt &amp;geöffnet</translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message id="document.command.openPicture">
         <source>Open &amp;Picture Here…</source>
@@ -185,7 +185,7 @@ Sie können, was davon übrig ist, als neues Dokument öffnen. Die Datei selbst 
     </message>
     <message id="document.command.revert">
         <source>Re&amp;vert to Saved</source>
-        <translation>&amp;Zurück zur gespeicherten Fassung</translation>
+        <translation>Zurück zur &amp;gespeicherten Fassung</translation>
     </message>
     <message id="document.recent.item">
         <source>%1 — %2</source>

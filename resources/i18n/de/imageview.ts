@@ -256,7 +256,7 @@
     <message id="imageview.choose-page.open">
         <source>&amp;Open</source>
         <extracomment>The button that opens the page shown.</extracomment>
-        <translation>Ö&amp;ffnen</translation>
+        <translation>Öffn&amp;en</translation>
     </message>
     <message id="imageview.choose-page.open-tip">
         <source>Open the page shown as the picture</source>

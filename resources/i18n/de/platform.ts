@@ -56,7 +56,7 @@
     <message id="platform.password.open">
         <source>&amp;Open</source>
         <extracomment>The button that opens the locked file.</extracomment>
-        <translation>Öff&amp;nen</translation>
+        <translation>Öffn&amp;en</translation>
     </message>
     <message id="platform.files.saveDocument">
         <source>Save the document</source>

@@ -156,7 +156,7 @@
     <message id="prefs.export.copy">
         <source>Titles when co&amp;pying</source>
         <extracomment>Check box in the preferences window.</extracomment>
-        <translation>Titel beim &amp;Kopieren</translation>
+        <translation>&amp;Titel beim Kopieren</translation>
     </message>
     <message id="prefs.export.save.tip">
         <source>Begin saved text files with a line of titles</source>
@@ -166,7 +166,7 @@
     <message id="prefs.export.save">
         <source>Titles when &amp;saving</source>
         <extracomment>Check box in the preferences window.</extracomment>
-        <translation>&amp;Titel beim Speichern</translation>
+        <translation>Titel beim &amp;Speichern</translation>
     </message>
     <message id="prefs.markers">
         <source>Markers of the series</source>

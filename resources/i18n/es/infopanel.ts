@@ -11,7 +11,7 @@
     <message id="InfoNoImage">
         <source>No picture yet</source>
         <extracomment>In the info panel instead of the picture's size.</extracomment>
-        <translation>Todavía sin imagen</translation>
+        <translation>Sin imagen todavía</translation>
     </message>
     <message id="ImageSizeFormat">
         <source>%.0f × %.0f</source>
