@@ -118,7 +118,7 @@ Ergebnis: 0 alles getan, 1 eine Datei ließ sich nicht lesen oder schreiben,
     <message id="app.usage.unwantedValue">
         <source>The option '%1' takes no value.</source>
         <extracomment>%1 is the option.</extracomment>
-        <translation>Die Option „%1“ hat keinen Wert.</translation>
+        <translation>Die Option „%1“ nimmt keinen Wert an.</translation>
     </message>
     <message id="app.usage.series">
         <source>'%1' is no list of series: write numbers from 1 to 10, such as 1,3-5, or all.</source>

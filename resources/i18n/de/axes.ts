@@ -11,7 +11,7 @@
     <message id="InvalidLog">
         <source>A logarithmic axis needs values above zero. A usable value has been filled in: please check it.</source>
         <extracomment>A value of a logarithmic axis was zero or negative.</extracomment>
-        <translation>Eine logarithmische Achse braucht Werte über null. Ein brauchbarer Wert wurde eingesetzt: Bitte prüfen Sie ihn.</translation>
+        <translation>Eine logarithmische Achse braucht Werte über null. Ein gültiger Wert wurde eingesetzt: Bitte prüfen Sie ihn.</translation>
     </message>
     <message id="SmallMax">
         <source>The maximum has to be greater than the minimum, so it was raised. Please check it.</source>
@@ -206,7 +206,7 @@
     <message id="axes.hint.polar.swing">
         <source>Drag to turn and resize the disc by this corner</source>
         <extracomment>Status line: polar axes, a handle across the radius.</extracomment>
-        <translation>Ziehen, um die Scheibe an dieser Ecke zu drehen und zu vergrößern</translation>
+        <translation>Ziehen, um die Scheibe an dieser Ecke zu drehen und ihre Größe zu ändern</translation>
     </message>
     <message id="axes.hint.polar.turn">
         <source>Drag to turn the radius</source>

@@ -26,7 +26,7 @@
     <message id="actionDataDelete">
         <source>Delete Series Data</source>
         <extracomment>Name of the action in "Undo …" and "Redo …".</extracomment>
-        <translation>Daten der Reihen löschen</translation>
+        <translation>Punkte löschen</translation>
     </message>
     <message id="SaveAllMessage">
         <source>Save all series as tab-separated text</source>

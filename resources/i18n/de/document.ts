@@ -335,7 +335,7 @@
         <source>1.  Open, paste or drop a picture: a scan, a screenshot or a photo of a chart.
 2.  Drag the anchors onto its axes and type their values.
 3.  Click the data points, then save or copy the numbers.</source>
-        <translation>1.  Öffnen Sie ein Bild oder fügen Sie es ein: einen Scan, ein Bildschirmfoto oder ein Foto.
+        <translation>1.  Öffnen Sie ein Bild, fügen Sie es ein oder ziehen Sie es herein: Scan, Bildschirmfoto oder Foto.
 2.  Ziehen Sie die Anker auf die Achsen des Diagramms und geben Sie deren Werte ein.
 3.  Klicken Sie die Datenpunkte an und speichern oder kopieren Sie die Zahlen.</translation>
     </message>
@@ -687,7 +687,7 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
     </message>
     <message id="document.status.noConverter">
         <source>The axes cannot be used yet: set them on the axis page first.</source>
-        <translation>Die Achsen sind noch nicht brauchbar: Legen Sie sie zuerst auf der Seite „Achsen“ fest.</translation>
+        <translation>Die Achsen sind noch nicht verwendbar: Legen Sie sie zuerst auf der Seite „Achsen“ fest.</translation>
     </message>
     <message id="document.status.addPoint">
         <source>Click to add a point to series %1.</source>

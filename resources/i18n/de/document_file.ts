@@ -165,7 +165,7 @@ Sie können, was davon übrig ist, als neues Dokument öffnen. Die Datei selbst 
     </message>
     <message id="document.open.remains">
         <source>Open What Is Left</source>
-        <translation>Überreste öffnen</translation>
+        <translation>Rest öffnen</translation>
     </message>
     <message id="document.command.openRecent">
         <source>Open &amp;Recent</source>

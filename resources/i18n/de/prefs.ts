@@ -111,7 +111,7 @@
     <message id="prefs.guide.interval.name">
         <source>Guide interval</source>
         <extracomment>Accessible name of the field.</extracomment>
-        <translation>Abstand der Hilfslinien in der Zeit</translation>
+        <translation>Intervall der Hilfslinien</translation>
     </message>
     <message id="prefs.unit.interval">
         <source>0.01 – 0.2 s</source>

@@ -29,7 +29,7 @@
     </message>
     <message id="document.axes.reset">
         <source>Defa&amp;ult</source>
-        <translation>&amp;Por omisión</translation>
+        <translation>&amp;Predeterminado</translation>
     </message>
     <message id="document.axes.reset.tip">
         <source>Put the anchors back to their default places</source>
@@ -49,7 +49,7 @@
     </message>
     <message id="document.axes.minx">
         <source>M&amp;in</source>
-        <translation>&amp;Mínimo</translation>
+        <translation>Mí&amp;nimo</translation>
     </message>
     <message id="document.axes.maxx">
         <source>Ma&amp;x</source>
@@ -57,11 +57,11 @@
     </message>
     <message id="document.axes.miny">
         <source>Mi&amp;n</source>
-        <translation>Mí&amp;nimo</translation>
+        <translation>Mínim&amp;o</translation>
     </message>
     <message id="document.axes.maxy">
         <source>&amp;Max</source>
-        <translation>Máxim&amp;o</translation>
+        <translation>&amp;Máximo</translation>
     </message>
     <message id="document.axes.minx.name">
         <source>Minimum X value</source>
@@ -97,7 +97,7 @@
     </message>
     <message id="document.axes.logx">
         <source>Lo&amp;garithmic</source>
-        <translation>&amp;Logarítmico</translation>
+        <translation>Logarítmi&amp;co</translation>
     </message>
     <message id="document.axes.logx.tip">
         <source>The X axis is logarithmic (base 10)</source>
@@ -105,7 +105,7 @@
     </message>
     <message id="document.axes.logy">
         <source>&amp;Logarithmic</source>
-        <translation>Logarítmi&amp;co</translation>
+        <translation>&amp;Logarítmico</translation>
     </message>
     <message id="document.axes.logy.tip">
         <source>The Y axis, or the radius, is logarithmic (base 10)</source>
@@ -249,7 +249,7 @@
     </message>
     <message id="document.data.initial">
         <source>&amp;Start</source>
-        <translation>I&amp;nicio</translation>
+        <translation>Ini&amp;cio</translation>
     </message>
     <message id="document.data.initial.name">
         <source>First value</source>
@@ -341,7 +341,7 @@
     </message>
     <message id="document.empty.open">
         <source>&amp;Open…</source>
-        <translation>A&amp;brir…</translation>
+        <translation>Ab&amp;rir…</translation>
     </message>
     <message id="document.picture.ccw.name">
         <source>Turn left</source>
@@ -485,11 +485,11 @@
     </message>
     <message id="document.command.saveAll">
         <source>&amp;Export Data…</source>
-        <translation>&amp;Exportar datos…</translation>
+        <translation>Exportar &amp;datos…</translation>
     </message>
     <message id="document.command.saveSelection">
         <source>Export Se&amp;lection…</source>
-        <translation>E&amp;xportar selección…</translation>
+        <translation>&amp;Exportar selección…</translation>
     </message>
     <message id="document.command.close">
         <source>&amp;Close Window</source>
@@ -529,15 +529,15 @@
     </message>
     <message id="document.command.selectAll">
         <source>Select &amp;All Series</source>
-        <translation>&amp;Seleccionar todas las series</translation>
+        <translation>Seleccionar todas &amp;las series</translation>
     </message>
     <message id="document.command.axisSetting">
         <source>&amp;Axis Setting</source>
-        <translation>Ajuste &amp;de ejes</translation>
+        <translation>Ajuste de &amp;ejes</translation>
     </message>
     <message id="document.command.digitizing">
         <source>&amp;Digitizing</source>
-        <translation>Digitali&amp;zar</translation>
+        <translation>&amp;Digitalizar</translation>
     </message>
     <message id="document.command.actualSize">
         <source>Act&amp;ual Size</source>
@@ -545,15 +545,15 @@
     </message>
     <message id="document.command.zoomIn">
         <source>Zoom &amp;In</source>
-        <translation>&amp;Acercar</translation>
+        <translation>A&amp;cercar</translation>
     </message>
     <message id="document.command.zoomOut">
         <source>Zoom &amp;Out</source>
-        <translation>Al&amp;ejar</translation>
+        <translation>&amp;Alejar</translation>
     </message>
     <message id="document.command.fitWidth">
         <source>Fit &amp;Width</source>
-        <translation>Aj&amp;ustar a lo ancho</translation>
+        <translation>Ajusta&amp;r a lo ancho</translation>
     </message>
     <message id="document.command.fitHeight">
         <source>Fit &amp;Height</source>
@@ -561,7 +561,7 @@
     </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
-        <translation>Girar a &amp;la izquierda</translation>
+        <translation>Girar a la &amp;izquierda</translation>
     </message>
     <message id="document.command.rotateCw">
         <source>Turn &amp;Right</source>
@@ -581,7 +581,7 @@
     </message>
     <message id="document.command.zoomOutTool">
         <source>Zoom &amp;Out Tool</source>
-        <translation>H&amp;erramienta Alejar</translation>
+        <translation>Herramie&amp;nta Alejar</translation>
     </message>
     <message id="document.command.trimTool">
         <source>&amp;Trim Tool</source>
@@ -593,15 +593,15 @@
     </message>
     <message id="document.command.quadrangle">
         <source>&amp;Quadrangle Axes</source>
-        <translation>Ejes en &amp;cuadrilátero</translation>
+        <translation>Eje&amp;s en cuadrilátero</translation>
     </message>
     <message id="document.command.polar">
         <source>P&amp;olar Axes</source>
-        <translation>Ejes &amp;polares</translation>
+        <translation>Ejes pola&amp;res</translation>
     </message>
     <message id="document.command.resetPosition">
         <source>&amp;Default Positions</source>
-        <translation>P&amp;osiciones predeterminadas</translation>
+        <translation>&amp;Posiciones predeterminadas</translation>
     </message>
     <message id="document.command.wholePosition">
         <source>&amp;Whole Picture</source>
@@ -621,11 +621,11 @@
     </message>
     <message id="document.command.drawBoth">
         <source>Draw Markers &amp;and Lines</source>
-        <translation>Dibujar marcadores &amp;y líneas</translation>
+        <translation>&amp;Dibujar marcadores y líneas</translation>
     </message>
     <message id="document.command.drawLines">
         <source>Draw &amp;Lines</source>
-        <translation>&amp;Dibujar líneas</translation>
+        <translation>Dibujar &amp;líneas</translation>
     </message>
     <message id="document.command.sort">
         <source>&amp;Sort Automatically</source>

@@ -181,7 +181,7 @@ Puede abrir lo que queda de él como documento nuevo. El archivo mismo queda com
     </message>
     <message id="document.command.saveAs">
         <source>S&amp;ave As…</source>
-        <translation>G&amp;uardar como…</translation>
+        <translation>Guardar co&amp;mo…</translation>
     </message>
     <message id="document.command.revert">
         <source>Re&amp;vert to Saved</source>

@@ -411,7 +411,7 @@
     <message id="prefs.factory">
         <source>&amp;Factory Settings</source>
         <extracomment>Button.</extracomment>
-        <translation>Ajustes &amp;de fábrica</translation>
+        <translation>Ajustes de &amp;fábrica</translation>
     </message>
     <message id="prefs.factory.tip">
         <source>Show the settings that the program came with; nothing is stored until OK</source>

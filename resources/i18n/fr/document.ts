@@ -273,7 +273,7 @@
     </message>
     <message id="document.data.values">
         <source>At the pointer</source>
-        <translation>Au pointeur</translation>
+        <translation>Sous le pointeur</translation>
     </message>
     <message id="document.data.x.name">
         <source>X value</source>

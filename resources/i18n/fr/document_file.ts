@@ -14,7 +14,7 @@
     <message id="document.damage.tooLarge">
         <source>Something in the file (%1) is far larger than any document has it.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
-        <translation>Un élément du fichier (%1) est bien plus grand que dans aucun document.</translation>
+        <translation>Un élément du fichier (%1) est bien plus grand que dans n’importe quel document.</translation>
     </message>
     <message id="document.damage.repeatedKey">
         <source>Something in the file (%1) is there twice.</source>

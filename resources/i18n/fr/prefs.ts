@@ -101,7 +101,7 @@
     <message id="prefs.guide.interval">
         <source>Follow the pointer every:</source>
         <extracomment>Caption in the preferences window.</extracomment>
-        <translation>Suivre le pointeur chaque :</translation>
+        <translation>Suivre le pointeur toutes les :</translation>
     </message>
     <message id="prefs.guide.interval.tip">
         <source>How often guide and values follow the pointer: a shorter time is smoother, a longer one spares the battery</source>

@@ -106,12 +106,12 @@
     <message id="axes.hint.parallel.origin">
         <source>Drag to move the corner where X and Y have their minimum</source>
         <extracomment>Status line: parallel axes, anchor 1.</extracomment>
-        <translation>ドラッグすると X と Y の最小の角が動きます</translation>
+        <translation>ドラッグすると X と Y が最小の角が動きます</translation>
     </message>
     <message id="axes.hint.parallel.maxx">
         <source>Drag to move the X maximum anchor</source>
         <extracomment>Status line: parallel axes, anchor 2.</extracomment>
-        <translation>ドラッグすると X の最大のアンカーが動きます</translation>
+        <translation>ドラッグすると X 最大値のアンカーが動きます</translation>
     </message>
     <message id="axes.hint.parallel.far">
         <source>Drag to move the corner opposite the origin</source>
@@ -121,7 +121,7 @@
     <message id="axes.hint.parallel.maxy">
         <source>Drag to move the Y maximum anchor</source>
         <extracomment>Status line: parallel axes, anchor 4.</extracomment>
-        <translation>ドラッグすると Y の最大のアンカーが動きます</translation>
+        <translation>ドラッグすると Y 最大値のアンカーが動きます</translation>
     </message>
     <message id="axes.hint.parallel.xaxis">
         <source>Drag to move the X axis</source>
@@ -131,12 +131,12 @@
     <message id="axes.hint.parallel.right">
         <source>Drag to move the side at the X maximum</source>
         <extracomment>Status line: parallel axes, right side.</extracomment>
-        <translation>ドラッグすると X の最大の辺が動きます</translation>
+        <translation>ドラッグすると X 最大値の辺が動きます</translation>
     </message>
     <message id="axes.hint.parallel.top">
         <source>Drag to move the side at the Y maximum</source>
         <extracomment>Status line: parallel axes, top side.</extracomment>
-        <translation>ドラッグすると Y の最大の辺が動きます</translation>
+        <translation>ドラッグすると Y 最大値の辺が動きます</translation>
     </message>
     <message id="axes.hint.parallel.yaxis">
         <source>Drag to move the Y axis</source>

@@ -82,7 +82,7 @@
     </message>
     <message id="document.save.changedText">
         <source>Another program has changed this file since you opened or saved it. If you replace it, those changes are lost.</source>
-        <translation>開いたとき、または保存したときの後に、ほかのプログラムがこのファイルを変更しました。置き換えると、その変更は失われます。</translation>
+        <translation>開くか保存した後に、ほかのプログラムがこのファイルを変更しました。置き換えると、その変更は失われます。</translation>
     </message>
     <message id="document.save.saveAs">
         <source>Save As…</source>
