@@ -1,6 +1,7 @@
 #include "helpbook/HelpBookViewer.h"
 
 #include "helpbook/HelpWindow.h"
+#include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 
 #include <utility>
@@ -21,6 +22,7 @@ void HelpBookViewer::openHelpAnchor(const QString &anchor, const QString &inBook
         return;
     if (m_window == nullptr)
         m_window = std::make_unique<HelpWindow>(
-            inBook, HelpBook(m_folder, m_keysOfCommand, QStringLiteral(":/help/en")), m_defaults);
+            texts::localized("help.title"),
+            HelpBook(m_folder, m_keysOfCommand, QStringLiteral(":/help/en")), m_defaults);
     m_window->showAnchor(anchor);
 }

@@ -22,7 +22,7 @@
     </message>
     <message id="document.example.polar">
         <source>Cardioid: Polar Axes</source>
-        <translation>Kardioide: Polarachsen</translation>
+        <translation>Kardioide: polare Achsen</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

@@ -3,6 +3,11 @@
 <TS version="2.1" language="ja">
 <context>
     <name></name>
+    <message id="help.title">
+        <source>Curvegrab X Help</source>
+        <extracomment>Title of the help window.</extracomment>
+        <translation>Curvegrab X ヘルプ</translation>
+    </message>
     <message id="help.contents">
         <source>Contents</source>
         <extracomment>Accessible name of the list of the help's pages.</extracomment>
