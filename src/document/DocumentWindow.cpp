@@ -47,6 +47,7 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     setAcceptDrops(true);
     applyIcons();
     tintChosenButtons();
+    keepDrawerAtTheRight();
     keepRoomForPolarTexts();
     keepPlacesOfBoxes();
     keepSizeWithoutPicture();
@@ -61,6 +62,14 @@ void DocumentWindow::tintChosenButtons()
         if (button->isCheckable())
             button->setStyle(style);
     }
+}
+
+// Where people write from right to left the controls follow, but not the drawer, which widens the
+// window at the right, and not the table: its numbers would be read backwards.
+void DocumentWindow::keepDrawerAtTheRight()
+{
+    m_ui->mainColumn->setLayoutDirection(layoutDirection());
+    m_ui->centralWidget->setLayoutDirection(Qt::LeftToRight);
 }
 
 // Polar axes give some controls other texts. Those of both kinds have room from the start, so that

@@ -45,6 +45,7 @@ protected:
 private:
     void applyIcons();
     void tintChosenButtons();
+    void keepDrawerAtTheRight();
     void keepRoomForPolarTexts();
     void keepPlacesOfBoxes();
     void keepSizeWithoutPicture();

@@ -80,10 +80,22 @@ protected:
         , m_prefs(m_defaults)
     {
         m_prefs.awakeFromNib();
+        makeWindow();
+    }
+    ~WindowTexts() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
+    void makeWindow()
+    {
+        m_documents.reset();
         m_documents = std::make_unique<DocumentController>(m_prefs, m_folder.path());
         m_documents->newDocument();
     }
-    ~WindowTexts() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
+    void makeWindowFromRightToLeft()
+    {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        makeWindow();
+    }
 
     [[nodiscard]] MyDocument &document() const { return *m_documents->documents().front(); }
     [[nodiscard]] QMainWindow &window() const { return document().window(); }
@@ -180,8 +192,21 @@ TEST_P(WindowTexts, ofTheDocumentWindowFit)
 
 TEST_P(WindowTexts, ofTheDocumentWindowFitFromRightToLeft)
 {
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    makeWindowFromRightToLeft();
     goThroughPages([this] { expectAllIsShown(window()); });
+}
+
+TEST_P(WindowTexts, fromRightToLeftLeaveTheTableAsItIs)
+{
+    makeWindowFromRightToLeft();
+    const auto *table = window().findChild<QWidget *>(QStringLiteral("dataTableView"));
+    const auto *drawer = window().findChild<QWidget *>(QStringLiteral("dataTableDrawer"));
+    const auto *controls = window().findChild<QWidget *>(QStringLiteral("actionSelectionTab"));
+    const auto *column = window().findChild<QWidget *>(QStringLiteral("mainColumn"));
+    EXPECT_EQ(controls->layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(table->layoutDirection(), Qt::LeftToRight);
+    QApplication::processEvents();
+    EXPECT_GE(drawer->x(), column->geometry().right());
 }
 
 TEST_P(WindowTexts, leaveTheDocumentWindowSmallEnoughForAPortableComputer)
