@@ -22,6 +22,22 @@ bool contains(const std::array<std::string_view, count> &names, const QString &n
     return std::find(names.begin(), names.end(), name.toStdString()) != names.end();
 }
 
+/// A whole number of one or two digits; nothing for anything else.
+std::optional<int> smallNumber(const QString &text)
+{
+    constexpr int mostDigits = 2;
+    const QString number = text.trimmed();
+    const bool isNumber = !number.isEmpty() && number.size() <= mostDigits &&
+                          std::all_of(number.begin(), number.end(),
+                                      [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+    if (!isNumber)
+        return std::nullopt;
+    int value = 0;
+    for (const QChar digit : number)
+        value = value * 10 + digit.digitValue();
+    return value;
+}
+
 /// Goes through the arguments one by one.
 class Parser
 {
@@ -62,6 +78,10 @@ private:
             readExport();
         else if (m_option == u"--series")
             readSeries();
+        else if (m_option == u"--format")
+            readFormat();
+        else if (m_option == u"--digits")
+            readDigits();
         else if (m_option == u"--titles" || m_option == u"--no-titles")
             readTitles(m_option == u"--titles");
         else if (m_option == u"--json")
@@ -100,6 +120,29 @@ private:
             m_line.series = *series;
         else
             fail("app.usage.series", *list);
+    }
+
+    void readFormat()
+    {
+        const std::optional<QString> name = value();
+        if (!name)
+            return;
+        m_exportOption = m_option;
+        m_line.format = exchangeformat::fromName(*name);
+        if (!m_line.format)
+            fail("app.usage.format", *name);
+    }
+
+    void readDigits()
+    {
+        const std::optional<QString> text = value();
+        if (!text)
+            return;
+        m_exportOption = m_option;
+        m_line.digits = smallNumber(*text);
+        if (!m_line.digits || *m_line.digits < exchangeformat::fewestDigits ||
+            *m_line.digits > exchangeformat::mostDigits)
+            fail("app.usage.digits", *text);
     }
 
     void readTitles(bool wanted)
@@ -174,6 +217,8 @@ private:
     {
         if (m_line.output.endsWith(QStringLiteral(".crvgrab"), Qt::CaseInsensitive))
             fail("app.usage.outputIsDocument", m_line.output);
+        else if (m_line.digits && m_line.exportFormat() == ExchangeFormat::Text)
+            fail("app.usage.textDigits", QStringLiteral("--digits"));
     }
 
     void checkFilesToOpen()
@@ -198,17 +243,8 @@ private:
 /// A series number from 1 to 10 as an index from 0.
 std::optional<int> seriesIndex(const QString &text)
 {
-    constexpr int mostDigits = 2;
-    const QString number = text.trimmed();
-    const bool isNumber = !number.isEmpty() && number.size() <= mostDigits &&
-                          std::all_of(number.begin(), number.end(),
-                                      [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
-    if (!isNumber)
-        return std::nullopt;
-    int value = 0;
-    for (const QChar digit : number)
-        value = value * 10 + digit.digitValue();
-    return SeriesStore::isSeries(value - 1) ? std::optional(value - 1) : std::nullopt;
+    const std::optional<int> number = smallNumber(text);
+    return number && SeriesStore::isSeries(*number - 1) ? std::optional(*number - 1) : std::nullopt;
 }
 
 } // namespace

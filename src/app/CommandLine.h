@@ -1,6 +1,7 @@
 #pragma once
 
 #include "capture/CaptureSurroundings.h"
+#include "exchange/ExchangeFormat.h"
 
 #include <QString>
 #include <QStringList>
@@ -29,6 +30,10 @@ struct CommandLine
     std::optional<IndexSet> series;
     /// Whether titles are exported; nothing for what the preferences say.
     std::optional<bool> titles;
+    /// The format of an export; nothing for what the extension of the output says.
+    std::optional<ExchangeFormat> format;
+    /// Significant digits of an export; nothing for what the format has.
+    std::optional<int> digits;
     bool asJson = false;
     /// The windowing system's plugin is named on the command line.
     bool choosesPlatform = false;
@@ -37,6 +42,12 @@ struct CommandLine
     /// Reads the arguments that follow the program's name. Options of the toolkit are passed over
     /// together with their values. After "--" everything is a file.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
+
+    /// The format in which an export is written.
+    [[nodiscard]] ExchangeFormat exportFormat() const
+    {
+        return format.value_or(exchangeformat::ofFile(output));
+    }
 };
 
 namespace serieslist {

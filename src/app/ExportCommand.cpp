@@ -2,6 +2,8 @@
 
 #include "app/DocumentInput.h"
 #include "capture/SeriesText.h"
+#include "document/DocumentExchange.h"
+#include "exchange/ExchangeFile.h"
 #include "platform/DurableFile.h"
 #include "platform/Texts.h"
 
@@ -10,6 +12,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -27,21 +31,60 @@ IndexSet chosenSeries(const CommandLine &commandLine, const QString &file, const
     return chosen;
 }
 
-/// The text of one document; nothing if it cannot be had, and the user is told why.
-std::optional<QByteArray> textOf(const QString &file, const CommandLine &commandLine,
-                                 bool withTitle, const Console &console)
+/// A document with what of it is exported.
+struct Chosen
 {
-    const std::optional<DocumentContents> contents = documentinput::read(file, console);
+    DocumentContents contents;
+    IndexSet series;
+    QString file;
+};
+
+/// What is exported of one document; nothing if it cannot be had, and the user is told why.
+std::optional<Chosen> chosenOf(const QString &file, const CommandLine &commandLine,
+                               const Console &console)
+{
+    std::optional<DocumentContents> contents = documentinput::read(file, console);
     if (!contents)
         return std::nullopt;
     const IndexSet series = chosenSeries(commandLine, file, contents->series, console);
-    const auto text = seriestext::makeString(contents->series, series, withTitle);
-    if (!text) {
+    if (series.empty()) {
         console.complainAbout(file, texts::localized(commandLine.series ? "app.export.noneOfThem"
                                                                         : "app.export.noPoints"));
         return std::nullopt;
     }
-    return seriestext::lossyAscii(QString::fromStdString(*text));
+    return Chosen{std::move(*contents), series, file};
+}
+
+QByteArray plainText(const std::vector<Chosen> &documents, bool withTitles)
+{
+    QByteArray all;
+    const char *separator = "";
+    for (const Chosen &document : documents) {
+        const auto text =
+            seriestext::makeString(document.contents.series, document.series, withTitles);
+        all += separator + seriestext::lossyAscii(QString::fromStdString(text.value_or("")));
+        separator = "\n";
+    }
+    return all;
+}
+
+/// The bytes of all documents; nothing, and the user is told why, if they cannot be made.
+std::optional<QByteArray> contentOf(const std::vector<Chosen> &documents,
+                                    const CommandLine &commandLine, bool withTitles,
+                                    const Console &console)
+{
+    if (commandLine.exportFormat() == ExchangeFormat::Text)
+        return plainText(documents, withTitles);
+    std::vector<ExchangeFacts> facts;
+    facts.reserve(documents.size());
+    for (const Chosen &document : documents)
+        facts.push_back(documentexchange::factsOf(document.contents, document.series,
+                                                  QFileInfo(document.file).fileName()));
+    auto content =
+        exchangefile::content(commandLine.exportFormat(), facts, {withTitles, commandLine.digits});
+    if (!content)
+        console.complainAbout(commandLine.output, texts::localized("document.export.noWorkbook"));
+    return content;
 }
 
 bool isWritten(QIODevice &device, const QByteArray &bytes)
@@ -94,21 +137,22 @@ int run(const CommandLine &commandLine, bool titlesByDefault, const Console &con
         console.complainAbout(commandLine.output, texts::localized("app.export.outputIsInput"));
         return exitcode::wrongUse;
     }
-    QByteArray all;
+    std::vector<Chosen> documents;
     bool isWhole = true;
-    const char *separator = "";
     for (const QString &file : commandLine.files) {
-        const auto text =
-            textOf(file, commandLine, commandLine.titles.value_or(titlesByDefault), console);
-        isWhole = isWhole && text;
-        all += separator + text.value_or(QByteArray());
-        separator = "\n";
+        std::optional<Chosen> chosen = chosenOf(file, commandLine, console);
+        isWhole = isWhole && chosen;
+        if (isWhole)
+            documents.push_back(std::move(*chosen));
     }
-    if (!isWhole) {
+    const auto content = isWhole ? contentOf(documents, commandLine,
+                                             commandLine.titles.value_or(titlesByDefault), console)
+                                 : std::nullopt;
+    if (!content) {
         console.complain(texts::localized("app.export.nothingWritten"));
         return exitcode::failure;
     }
-    return write(commandLine.output, all, console) ? exitcode::success : exitcode::failure;
+    return write(commandLine.output, *content, console) ? exitcode::success : exitcode::failure;
 }
 
 } // namespace exportcommand

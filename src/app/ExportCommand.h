@@ -3,10 +3,10 @@
 #include "app/CommandLine.h"
 #include "app/Console.h"
 
-/// Writes the captured data of documents as text, without a window.
+/// Writes the captured data of documents, without a window.
 namespace exportcommand {
 
-/// Runs `--export`: the texts of all files one after the other, with an empty line in between.
+/// Runs `--export`: all files one after the other; plain texts have an empty line in between.
 /// Either all of it is written or nothing. `titlesByDefault` is what the preferences say about
 /// titles. Gives the exit code.
 [[nodiscard]] int run(const CommandLine &commandLine, bool titlesByDefault, const Console &console);

@@ -140,6 +140,41 @@ TEST(CommandLine, aSeriesThatIsNotThereIsNamed)
     EXPECT_EQ(line.mistake->argument, QStringLiteral("11"));
 }
 
+TEST(CommandLine, theFormatIsTheOneNamedOrThatOfTheOutput)
+{
+    const auto formatOf = [](const QStringList &arguments) {
+        return CommandLine::parse(arguments).exportFormat();
+    };
+    EXPECT_EQ(formatOf({"--export", "out.csv", "a"}), ExchangeFormat::Csv);
+    EXPECT_EQ(formatOf({"--export", "out.csv", "--format", "json", "a"}), ExchangeFormat::Json);
+    EXPECT_EQ(formatOf({"--export", "out.xlsx", "--format=text", "a"}), ExchangeFormat::Text);
+    EXPECT_EQ(formatOf({"--export", "-", "a"}), ExchangeFormat::Text);
+    EXPECT_EQ(formatOf({"--export", "out.dat", "a"}), ExchangeFormat::Text);
+}
+
+TEST(CommandLine, formatsAndDigitsThatAreNoneAreNamed)
+{
+    EXPECT_EQ(mistakeIn({"--export", "-", "--format", "ods", "a"}), "app.usage.format");
+    EXPECT_EQ(mistakeIn({"--export", "-", "--format=CSV", "a"}), "app.usage.format");
+    for (const QString digits : {"0", "18", "-1", "1.5", "x", "100"})
+        EXPECT_EQ(mistakeIn({"--export", "a.csv", "--digits=" + digits, "a"}), "app.usage.digits");
+    EXPECT_EQ(CommandLine::parse({"--export", "a.csv", "--digits", "17", "a"}).digits, 17);
+    EXPECT_EQ(mistakeIn({"--export", "a.csv", "--digits", "4", "a"}), "none");
+}
+
+TEST(CommandLine, formatAndDigitsBelongToExports)
+{
+    EXPECT_EQ(mistakeIn({"--format", "csv", "a"}), "app.usage.exportOnly");
+    EXPECT_EQ(mistakeIn({"--info", "--digits", "3", "a"}), "app.usage.exportOnly");
+}
+
+TEST(CommandLine, theDigitsOfTextAreFixed)
+{
+    EXPECT_EQ(mistakeIn({"--export", "-", "--digits", "6", "a"}), "app.usage.textDigits");
+    EXPECT_EQ(mistakeIn({"--export", "a.csv", "--format", "text", "--digits", "6", "a"}),
+              "app.usage.textDigits");
+}
+
 TEST(CommandLine, optionsMayStandBehindTheFiles)
 {
     const CommandLine line =

@@ -4,6 +4,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <csignal>
 
@@ -99,6 +102,61 @@ TEST_F(ExportCommand, severalTextsFollowEachOtherWithAnEmptyLineBetween)
     const QString two = writeDocument("two.crvgrab", rootWithPoints({0, 2}));
     EXPECT_EQ(run({"--export", "-", "--no-titles", one, two}), exitcode::success);
     EXPECT_EQ(out(), "1\t-1\n\n1\t-1\n2\t-2\n");
+}
+
+TEST_F(ExportCommand, theExtensionOfTheOutputNamesTheFormat)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({2, 0, 1}));
+    EXPECT_EQ(run({"--export", path("out.csv"), file}), exitcode::success);
+    EXPECT_EQ(bytesOf("out.csv"), "Series_01_x,Series_01_y,Series_03_x,Series_03_y\r\n"
+                                  "1,-1,1,-1\r\n"
+                                  "2,-2,,\r\n");
+    EXPECT_EQ(run({"--export", path("out.dat"), "--no-titles", file}), exitcode::success);
+    EXPECT_EQ(bytesOf("out.dat"), "1\t-1\t1\t-1\n2\t-2\t\t\n");
+}
+
+TEST_F(ExportCommand, theFormatThatIsNamedWinsOverTheExtension)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({1}));
+    run({"--export", path("out.csv"), "--format", "text", "--no-titles", file});
+    EXPECT_EQ(bytesOf("out.csv"), "1\t-1\n");
+    run({"--export", "-", "--format", "csv", "--no-titles", file});
+    EXPECT_EQ(out(), "1,-1\r\n");
+}
+
+TEST_F(ExportCommand, numbersKeepAllTheirDigitsUnlessSomeAreChosen)
+{
+    const QString file =
+        writeDocument("a.crvgrab", sampleroots::root(sampleroots::Kind::Parallel, 2));
+    run({"--export", path("all.csv"), "--no-titles", file});
+    EXPECT_EQ(bytesOf("all.csv"), "0,0\r\n0.14285714285714285,0.001\r\n");
+    run({"--export", path("some.csv"), "--no-titles", "--digits", "3", file});
+    EXPECT_EQ(bytesOf("some.csv"), "0,0\r\n0.143,0.001\r\n");
+}
+
+TEST_F(ExportCommand, jsonTellsThePictureTheAxesAndTheConverters)
+{
+    const QString file = writeDocument("a.crvgrab", sampleroots::root(sampleroots::Kind::Polar, 1));
+    EXPECT_EQ(run({"--export", "-", "--format", "json", file, file}), exitcode::success);
+    const QList<QByteArray> lines = out().trimmed().split('\n');
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[0], lines[1]);
+    const QJsonObject object = QJsonDocument::fromJson(lines[0]).object();
+    EXPECT_EQ(object["document"].toString(), "a.crvgrab");
+    EXPECT_EQ(object["picture"].toObject(), QJsonObject({{"width", 30}, {"height", 40}}));
+    EXPECT_TRUE(object["axes"].isObject());
+    const QJsonObject series = object["series"].toArray()[0].toObject();
+    EXPECT_EQ(series["converter"].toObject()["kind"].toString(), "polar");
+    EXPECT_EQ(series["quantities"].toArray(), QJsonArray({"theta", "r"}));
+}
+
+TEST_F(ExportCommand, aWorkbookIsWrittenWholeAlsoToStandardOutput)
+{
+    const QString file = writeDocument("a.crvgrab", rootWithPoints({1}));
+    EXPECT_EQ(run({"--export", path("out.xlsx"), file}), exitcode::success);
+    EXPECT_TRUE(bytesOf("out.xlsx").startsWith("PK"));
+    EXPECT_EQ(run({"--export", "-", "--format", "xlsx", file}), exitcode::success);
+    EXPECT_EQ(out().size(), bytesOf("out.xlsx").size());
 }
 
 TEST_F(ExportCommand, oneBadFileKeepsEverythingUnwritten)

@@ -33,8 +33,8 @@ QSet<QString> longOptionsIn(const QString &text)
 TEST(Manual, hasTheOptionsThatTheHelpHas)
 {
     const QSet<QString> inHelp = longOptionsIn(texts::localized("app.help"));
-    EXPECT_EQ(inHelp, QSet<QString>({"--export", "--series", "--titles", "--no-titles", "--info",
-                                     "--json", "--help", "--version"}));
+    EXPECT_EQ(inHelp, QSet<QString>({"--export", "--format", "--digits", "--series", "--titles",
+                                     "--no-titles", "--info", "--json", "--help", "--version"}));
     EXPECT_EQ(longOptionsIn(manual()), inHelp);
 }
 

@@ -749,5 +749,10 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
         <source>Keep the points of every series in ascending order</source>
         <translation>Die Punkte jeder Datenreihe aufsteigend geordnet halten</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>Die Arbeitsmappe ließ sich nicht anlegen. Ein Blatt fasst 1048576 Zeilen, und der Datenträger braucht etwas Platz für Zwischendateien.</translation>
+    </message>
 </context>
 </TS>

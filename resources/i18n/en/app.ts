@@ -5,16 +5,21 @@
     <name></name>
     <message id="app.help">
         <source>Usage: curvegrab [FILE…]
-       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --export OUT [--format FORMAT] [--digits N] [--series LIST]
+                 [--titles | --no-titles] FILE…
        curvegrab --info [--json] FILE…
 
 Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
 FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
 no display and read documents only.
 
-  --export OUT      write the captured data as tab-separated text to the file OUT, or to
-                    standard output if OUT is -; several documents follow each other
-                    with an empty line in between
+  --export OUT      write the captured data to the file OUT, or to standard output if
+                    OUT is -; several texts follow each other with an empty line in
+                    between
+  --format FORMAT   text (tab-separated), csv, json or xlsx; without it the extension
+                    of OUT decides, and text holds for every other one
+  --digits N        significant digits in csv, json and xlsx, 1 to 17; without it as
+                    many as each number needs
   --series LIST     the series to export, for example 1,3-5; all (the default) stands
                     for every series that holds points
   --titles          begin with a line of titles
@@ -30,16 +35,21 @@ FILE may be - to read a document from standard input.
 Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</source>
         <extracomment>The output of --help, at most 88 characters wide. Options stay as they are.</extracomment>
         <translation>Usage: curvegrab [FILE…]
-       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --export OUT [--format FORMAT] [--digits N] [--series LIST]
+                 [--titles | --no-titles] FILE…
        curvegrab --info [--json] FILE…
 
 Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
 FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
 no display and read documents only.
 
-  --export OUT      write the captured data as tab-separated text to the file OUT, or to
-                    standard output if OUT is -; several documents follow each other
-                    with an empty line in between
+  --export OUT      write the captured data to the file OUT, or to standard output if
+                    OUT is -; several texts follow each other with an empty line in
+                    between
+  --format FORMAT   text (tab-separated), csv, json or xlsx; without it the extension
+                    of OUT decides, and text holds for every other one
+  --digits N        significant digits in csv, json and xlsx, 1 to 17; without it as
+                    many as each number needs
   --series LIST     the series to export, for example 1,3-5; all (the default) stands
                     for every series that holds points
   --titles          begin with a line of titles
@@ -148,6 +158,21 @@ Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</tr
         <source>Name at least one document.</source>
         <extracomment>Wrong use of the command line.</extracomment>
         <translation>Name at least one document.</translation>
+    </message>
+    <message id="app.usage.format">
+        <source>'%1' is no format: write text, csv, json or xlsx.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>'%1' is no format: write text, csv, json or xlsx.</translation>
+    </message>
+    <message id="app.usage.digits">
+        <source>'%1' is no number of digits: write a number from 1 to 17.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>'%1' is no number of digits: write a number from 1 to 17.</translation>
+    </message>
+    <message id="app.usage.textDigits">
+        <source>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</translation>
     </message>
     <message id="app.usage.outputIsDocument">
         <source>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</source>

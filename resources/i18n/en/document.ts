@@ -749,5 +749,10 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <source>Keep the points of every series in ascending order</source>
         <translation>Keep the points of every series in ascending order</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</translation>
+    </message>
 </context>
 </TS>

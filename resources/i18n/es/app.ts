@@ -5,16 +5,21 @@
     <name></name>
     <message id="app.help">
         <source>Usage: curvegrab [FILE…]
-       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --export OUT [--format FORMAT] [--digits N] [--series LIST]
+                 [--titles | --no-titles] FILE…
        curvegrab --info [--json] FILE…
 
 Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
 FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
 no display and read documents only.
 
-  --export OUT      write the captured data as tab-separated text to the file OUT, or to
-                    standard output if OUT is -; several documents follow each other
-                    with an empty line in between
+  --export OUT      write the captured data to the file OUT, or to standard output if
+                    OUT is -; several texts follow each other with an empty line in
+                    between
+  --format FORMAT   text (tab-separated), csv, json or xlsx; without it the extension
+                    of OUT decides, and text holds for every other one
+  --digits N        significant digits in csv, json and xlsx, 1 to 17; without it as
+                    many as each number needs
   --series LIST     the series to export, for example 1,3-5; all (the default) stands
                     for every series that holds points
   --titles          begin with a line of titles
@@ -30,16 +35,21 @@ FILE may be - to read a document from standard input.
 Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</source>
         <extracomment>The output of --help, at most 88 characters wide. Options stay as they are.</extracomment>
         <translation>Uso: curvegrab [ARCHIVO…]
-     curvegrab --export SALIDA [--series LISTA] [--titles | --no-titles] ARCHIVO…
+     curvegrab --export SALIDA [--format FORMATO] [--digits N] [--series LISTA]
+               [--titles | --no-titles] ARCHIVO…
      curvegrab --info [--json] ARCHIVO…
 
 Curvegrab X convierte la imagen de un gráfico en números. Sin opciones abre cada
 ARCHIVO, un documento (.crvgrab) o una imagen, en una ventana propia. Las otras formas
 no necesitan pantalla y solo leen documentos.
 
-  --export SALIDA   escribir los datos capturados como texto separado por tabuladores en
-                    el archivo SALIDA, o en la salida estándar si SALIDA es -; varios
-                    documentos se siguen con una línea vacía entre ellos
+  --export SALIDA   escribir los datos capturados en el archivo SALIDA, o en la salida
+                    estándar si SALIDA es -; varios textos se siguen con una línea
+                    vacía entre ellos
+  --format FORMATO  text (separado por tabuladores), csv, json o xlsx; sin esta opción
+                    decide la extensión de SALIDA, y text vale para cualquier otra
+  --digits N        cifras significativas en csv, json y xlsx, de 1 a 17; sin esta
+                    opción, tantas como necesite cada número
   --series LISTA    las series que se exportan, por ejemplo 1,3-5; all (por omisión) son
                     todas las series que contienen puntos
   --titles          empezar con una línea de títulos
@@ -148,6 +158,21 @@ Resultado: 0 todo hecho, 1 no se pudo leer o escribir un archivo, 2 uso incorrec
         <source>Name at least one document.</source>
         <extracomment>Wrong use of the command line.</extracomment>
         <translation>Indique al menos un documento.</translation>
+    </message>
+    <message id="app.usage.format">
+        <source>'%1' is no format: write text, csv, json or xlsx.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>«%1» no es un formato: escriba text, csv, json o xlsx.</translation>
+    </message>
+    <message id="app.usage.digits">
+        <source>'%1' is no number of digits: write a number from 1 to 17.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>«%1» no es una cantidad de cifras: escriba un número del 1 al 17.</translation>
+    </message>
+    <message id="app.usage.textDigits">
+        <source>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>El texto siempre tiene seis cifras: use «%1» con csv, json o xlsx, por ejemplo --format csv.</translation>
     </message>
     <message id="app.usage.outputIsDocument">
         <source>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</source>

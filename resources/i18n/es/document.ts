@@ -749,5 +749,10 @@ Versión %1. Software libre bajo la Licencia Pública General de GNU, versión 3
         <source>Keep the points of every series in ascending order</source>
         <translation>Mantener los puntos de cada serie en orden ascendente</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>No se pudo crear el libro. En una hoja caben 1048576 filas, y el disco necesita algo de espacio para archivos temporales.</translation>
+    </message>
 </context>
 </TS>

@@ -749,5 +749,10 @@ Version %1. Logiciel libre sous licence publique générale GNU, version 3 ou ul
         <source>Keep the points of every series in ascending order</source>
         <translation>Garder les points de chaque série dans l’ordre croissant</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>Le classeur n’a pas pu être créé. Une feuille contient au plus 1048576 lignes, et le disque a besoin d’un peu de place pour des fichiers temporaires.</translation>
+    </message>
 </context>
 </TS>

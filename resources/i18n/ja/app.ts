@@ -5,16 +5,21 @@
     <name></name>
     <message id="app.help">
         <source>Usage: curvegrab [FILE…]
-       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --export OUT [--format FORMAT] [--digits N] [--series LIST]
+                 [--titles | --no-titles] FILE…
        curvegrab --info [--json] FILE…
 
 Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
 FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
 no display and read documents only.
 
-  --export OUT      write the captured data as tab-separated text to the file OUT, or to
-                    standard output if OUT is -; several documents follow each other
-                    with an empty line in between
+  --export OUT      write the captured data to the file OUT, or to standard output if
+                    OUT is -; several texts follow each other with an empty line in
+                    between
+  --format FORMAT   text (tab-separated), csv, json or xlsx; without it the extension
+                    of OUT decides, and text holds for every other one
+  --digits N        significant digits in csv, json and xlsx, 1 to 17; without it as
+                    many as each number needs
   --series LIST     the series to export, for example 1,3-5; all (the default) stands
                     for every series that holds points
   --titles          begin with a line of titles
@@ -30,16 +35,20 @@ FILE may be - to read a document from standard input.
 Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</source>
         <extracomment>The output of --help, at most 88 characters wide. Options stay as they are.</extracomment>
         <translation>使い方: curvegrab [ファイル…]
-        curvegrab --export 出力 [--series 系列] [--titles | --no-titles] ファイル…
+        curvegrab --export 出力 [--format 形式] [--digits N] [--series 系列]
+                  [--titles | --no-titles] ファイル…
         curvegrab --info [--json] ファイル…
 
 Curvegrab X はグラフの画像を数値に変えます。オプションがなければ、指定された
 ドキュメント (.crvgrab) または画像を、それぞれのウィンドウで開きます。
 ほかの使い方では画面は必要なく、ドキュメントだけを読み取ります。
 
-  --export 出力     取得したデータをタブ区切りテキストとしてファイルに書き出します。
-                    出力が - なら標準出力に書き出します。ドキュメントが複数あれば
-                    空行を挟んで続けます
+  --export 出力     取得したデータをファイルに書き出します。出力が - なら標準出力に
+                    書き出します。テキストが複数あれば空行を挟んで続けます
+  --format 形式     text (タブ区切り)、csv、json、xlsx。省略すると出力の拡張子に
+                    従い、ほかの拡張子では text になります
+  --digits N        csv、json、xlsx の有効桁数 (1 から 17)。省略すると、それぞれの
+                    数値に必要なだけ書き出します
   --series 系列     書き出す系列。例: 1,3-5。all (省略時) は点のあるすべての系列
   --titles          先頭にタイトル行を付けます
   --no-titles       数値だけを書き出します。どちらも指定しなければ、設定の
@@ -147,6 +156,21 @@ Curvegrab X はグラフの画像を数値に変えます。オプションが�
         <source>Name at least one document.</source>
         <extracomment>Wrong use of the command line.</extracomment>
         <translation>ドキュメントを一つ以上指定してください。</translation>
+    </message>
+    <message id="app.usage.format">
+        <source>'%1' is no format: write text, csv, json or xlsx.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>「%1」は形式ではありません。text、csv、json、xlsx のいずれかを書いてください。</translation>
+    </message>
+    <message id="app.usage.digits">
+        <source>'%1' is no number of digits: write a number from 1 to 17.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>「%1」は桁数ではありません。1 から 17 の数を書いてください。</translation>
+    </message>
+    <message id="app.usage.textDigits">
+        <source>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>テキストは常に 6 桁です。「%1」は csv、json、xlsx と一緒に、例えば --format csv として使ってください。</translation>
     </message>
     <message id="app.usage.outputIsDocument">
         <source>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</source>

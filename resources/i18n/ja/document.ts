@@ -749,5 +749,10 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <source>Keep the points of every series in ascending order</source>
         <translation>どの系列の点も昇順に保ちます</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>ブックを作成できませんでした。1 枚のシートに入るのは 1048576 行までです。また、ディスクには一時ファイルのための空きが必要です。</translation>
+    </message>
 </context>
 </TS>

@@ -5,16 +5,21 @@
     <name></name>
     <message id="app.help">
         <source>Usage: curvegrab [FILE…]
-       curvegrab --export OUT [--series LIST] [--titles | --no-titles] FILE…
+       curvegrab --export OUT [--format FORMAT] [--digits N] [--series LIST]
+                 [--titles | --no-titles] FILE…
        curvegrab --info [--json] FILE…
 
 Curvegrab X turns the picture of a chart into numbers. Without an option it opens each
 FILE, a document (.crvgrab) or a picture, in a window of its own. The other forms need
 no display and read documents only.
 
-  --export OUT      write the captured data as tab-separated text to the file OUT, or to
-                    standard output if OUT is -; several documents follow each other
-                    with an empty line in between
+  --export OUT      write the captured data to the file OUT, or to standard output if
+                    OUT is -; several texts follow each other with an empty line in
+                    between
+  --format FORMAT   text (tab-separated), csv, json or xlsx; without it the extension
+                    of OUT decides, and text holds for every other one
+  --digits N        significant digits in csv, json and xlsx, 1 to 17; without it as
+                    many as each number needs
   --series LIST     the series to export, for example 1,3-5; all (the default) stands
                     for every series that holds points
   --titles          begin with a line of titles
@@ -30,14 +35,18 @@ FILE may be - to read a document from standard input.
 Exit status: 0 all done, 1 a file could not be read or written, 2 wrong use.</source>
         <extracomment>The output of --help, at most 88 characters wide. Options stay as they are.</extracomment>
         <translation>用法：curvegrab [文件…]
-      curvegrab --export 输出 [--series 列表] [--titles | --no-titles] 文件…
+      curvegrab --export 输出 [--format 格式] [--digits N] [--series 列表]
+                [--titles | --no-titles] 文件…
       curvegrab --info [--json] 文件…
 
 Curvegrab X 将图表的图片变成数字。不带选项时，它在各自的窗口中打开每个文件，
 即文档 (.crvgrab) 或图片。其他用法不需要显示器，并且只读取文档。
 
-  --export 输出     将采集的数据以制表符分隔的文本写入文件；如果输出为 -，
-                    则写到标准输出。多个文档依次排列，中间隔一个空行
+  --export 输出     将采集的数据写入文件；如果输出为 -，则写到标准输出。
+                    多个文本依次排列，中间隔一个空行
+  --format 格式     text（制表符分隔）、csv、json 或 xlsx；省略时由输出的扩展名
+                    决定，其他扩展名一律为 text
+  --digits N        csv、json 和 xlsx 的有效位数，1 到 17；省略时按每个数字的需要
   --series 列表     要导出的系列，例如 1,3-5；all（默认）表示所有含有点的系列
   --titles          以标题行开头
   --no-titles       只写数字；两个选项都不用时，由首选项“保存时包含标题”决定
@@ -144,6 +153,21 @@ Curvegrab X 将图表的图片变成数字。不带选项时，它在各自的�
         <source>Name at least one document.</source>
         <extracomment>Wrong use of the command line.</extracomment>
         <translation>请至少指定一个文档。</translation>
+    </message>
+    <message id="app.usage.format">
+        <source>'%1' is no format: write text, csv, json or xlsx.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>“%1”不是格式：请写 text、csv、json 或 xlsx。</translation>
+    </message>
+    <message id="app.usage.digits">
+        <source>'%1' is no number of digits: write a number from 1 to 17.</source>
+        <extracomment>%1 is what was typed.</extracomment>
+        <translation>“%1”不是位数：请写 1 到 17 的数字。</translation>
+    </message>
+    <message id="app.usage.textDigits">
+        <source>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</source>
+        <extracomment>%1 is the option.</extracomment>
+        <translation>文本始终为六位有效数字：请将“%1”与 csv、json 或 xlsx 一起使用，例如 --format csv。</translation>
     </message>
     <message id="app.usage.outputIsDocument">
         <source>'%1' is the name of a document, not of a text file. After --export comes the file to write, then the documents.</source>

@@ -749,5 +749,10 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <source>Keep the points of every series in ascending order</source>
         <translation>使每个系列的点保持升序</translation>
     </message>
+    <message id="document.export.noWorkbook">
+        <source>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</source>
+        <extracomment>Why a file was not written.</extracomment>
+        <translation>无法生成工作簿。一张工作表最多容纳 1048576 行，并且磁盘需要留出一些空间存放临时文件。</translation>
+    </message>
 </context>
 </TS>
