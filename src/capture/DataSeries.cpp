@@ -217,7 +217,7 @@ void DataSeries::copySelection()
 {
     const bool withTitle = m_surroundings.prefs.copyWithTitle();
     if (const std::optional<QString> text = makeStringForSeries(selectedSeries(), withTitle))
-        m_surroundings.document.clipboard().setText(*text);
+        m_surroundings.document.clipboard().setTable(*text);
 }
 
 void DataSeries::moveToNextSeries()

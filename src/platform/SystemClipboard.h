@@ -7,4 +7,5 @@ class SystemClipboard final : public Clipboard
 {
 public:
     void setText(const QString &text) override;
+    void setTable(const QString &text) override;
 };

@@ -54,6 +54,10 @@ private:
         {
             ADD_FAILURE() << "the guide copies nothing";
         }
+        void setTable(const QString & /*text*/) override
+        {
+            ADD_FAILURE() << "the guide copies nothing";
+        }
     };
 
     UndoManager m_undo;

@@ -42,6 +42,7 @@ class RecordingClipboard final : public Clipboard
 {
 public:
     void setText(const QString &text) override { texts.push_back(text); }
+    void setTable(const QString &text) override { texts.push_back(text); }
 
     std::vector<QString> texts;
 };

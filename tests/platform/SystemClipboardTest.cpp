@@ -31,3 +31,13 @@ TEST(SystemClipboard, anEmptyTextReplacesTheOldOne)
     clipboard.setText(QString());
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QString());
 }
+
+TEST(SystemClipboard, aTableIsItsTextByteForByteAndATableBesideIt)
+{
+    SystemClipboard clipboard;
+    clipboard.setTable(QStringLiteral("x\ty\n1.5\t\n"));
+    const QMimeData *const content = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(content->data(QStringLiteral("text/plain")), QByteArray("x\ty\n1.5\t\n"));
+    EXPECT_EQ(content->html().count(QStringLiteral("<tr>")), 2);
+    EXPECT_TRUE(content->html().contains(QStringLiteral(">1.5</td><td></td>")));
+}

@@ -14,6 +14,8 @@ public:
         ++m_setCount;
     }
 
+    void setTable(const QString &text) override { setText(text); }
+
     /// What was put last, or nothing if nothing ever was.
     [[nodiscard]] const std::optional<QString> &text() const { return m_text; }
     [[nodiscard]] int setCount() const { return m_setCount; }
