@@ -193,6 +193,8 @@ const char *textOf(documentarchive::Fault fault)
         return "document.damage.trailing";
     case Fault::DamagedPicture:
         return "document.damage.picture";
+    case Fault::PictureTooLarge:
+        return "document.damage.pictureTooLarge";
     case Fault::Unreadable:
         break;
     }

@@ -15,16 +15,17 @@ namespace documentarchive {
 
 /// What is wrong with a file.
 enum class Fault {
-    NoDocument,     ///< the file does not begin like a document
-    EndsEarly,      ///< bytes are missing at the end
-    Unreadable,     ///< what stands there is no CBOR that the format knows
-    TooLarge,       ///< more values, or deeper ones, than any document has
-    RepeatedKey,    ///< a key stands twice in one dictionary; the first one counts
-    BadObject,      ///< a point, a converter or a picture does not have the values that it needs
-    BadReference,   ///< a reference to an object that is not there
-    WrongKind,      ///< a value of another kind than its key needs
-    TrailingBytes,  ///< something follows the end of the document
-    DamagedPicture, ///< the picture cannot be decoded; found only by those who decode it
+    NoDocument,      ///< the file does not begin like a document
+    EndsEarly,       ///< bytes are missing at the end
+    Unreadable,      ///< what stands there is no CBOR that the format knows
+    TooLarge,        ///< more values, or deeper ones, than any document has
+    RepeatedKey,     ///< a key stands twice in one dictionary; the first one counts
+    BadObject,       ///< a point, a converter or a picture does not have the values that it needs
+    BadReference,    ///< a reference to an object that is not there
+    WrongKind,       ///< a value of another kind than its key needs
+    TrailingBytes,   ///< something follows the end of the document
+    DamagedPicture,  ///< the picture cannot be decoded; found only by those who decode it
+    PictureTooLarge, ///< there is not enough memory to decode the picture
 };
 
 /// One fault and where it is.

@@ -1,12 +1,12 @@
 #include "document/DocumentContents.h"
 
 #include "capture/SeriesArchive.h"
+#include "document/DocumentFile.h"
 #include "document/DocumentKeys.h"
 #include "imageview/ArchivedPicture.h"
+#include "imageview/PictureMemory.h"
 #include "platform/GeometryText.h"
 #include "platform/Texts.h"
-
-#include <QFile>
 
 namespace {
 
@@ -87,11 +87,8 @@ ReadDocumentFile readDocument(const QByteArray &bytes)
 
 ReadDocumentFile readDocumentFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, file.errorString(), {}};
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return {{}, file.errorString(), {}};
-    return readDocument(bytes);
+    const documentfile::Content content = documentfile::contentOf(path, picturememory::available());
+    if (!content.error.isEmpty())
+        return {{}, content.error, {}};
+    return readDocument(content.bytes);
 }

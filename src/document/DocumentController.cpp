@@ -1,6 +1,7 @@
 #include "document/DocumentController.h"
 
 #include "document/ApplicationPanels.h"
+#include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
 #include "platform/SystemClipboard.h"
 #include "platform/SystemDesktop.h"
@@ -129,4 +130,16 @@ void DocumentController::documentClosed(MyDocument &document)
     // The document is still in its window's close event: it goes once that is over.
     closed->release()->deleteLater();
     m_documents.erase(closed);
+    // The program ends with its last window, and must not do so while a file is being opened.
+    for (const auto &open : m_documents) {
+        if (!showsAWindow() && open->isReading())
+            open->showWindow();
+    }
+    openingEnded();
+}
+
+bool DocumentController::showsAWindow() const
+{
+    return std::any_of(m_documents.begin(), m_documents.end(),
+                       [](const auto &document) { return document->window().isVisible(); });
 }

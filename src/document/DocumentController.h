@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DocumentFile.h"
 #include "document/DocumentServices.h"
 #include "document/RecentFiles.h"
 #include "document/RecoveryStore.h"
@@ -7,12 +8,20 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 class ApplicationPanels;
 class SystemClipboard;
 class SystemPasteboard;
+
+/// What a program that ended without warning left of a document.
+struct RecoveredDocument
+{
+    std::optional<RecoveryStore::Document> document; ///< with its picture, decoded
+    std::vector<documentarchive::Damage> damages;    ///< what of it cannot be shown
+};
 
 /// The open documents of the application, the menu items that they share, and the services of the
 /// real desktop.
@@ -67,16 +76,28 @@ private:
     void open(const QString &path);
     void readDocument(const QString &path);
     void readPicture(const QString &path);
-    void finishOpening(MyDocument &document);
+    void wasRead(MyDocument &document, bool isNew, const QString &path,
+                 const documentfile::Document &read);
+    void show(MyDocument &document);
+    void giveUpOpening(MyDocument &document, bool isNew);
     void offerRemains(MyDocument &document, const QString &path);
     void offerRecovered();
+    void recoveryAnswered(const QStringList &remains, SheetAnswer answer);
     void bringBack(const QString &key);
+    void wasBroughtBack(MyDocument &document, const QString &key,
+                        const RecoveredDocument &recovered);
     void refuse(const QString &path, const QString &reason);
+    void presentRefusal(const QString &path, const QString &reason);
+    /// Runs `action` once no file is being opened any more.
+    void afterOpening(std::function<void()> action);
+    void openingEnded();
     [[nodiscard]] MyDocument *documentOf(const QString &path) const;
     /// An untouched document to open a file in, or a new one.
     [[nodiscard]] MyDocument &documentForOpening();
     /// A document at whose window messages about files are shown.
     [[nodiscard]] MyDocument &documentForMessages();
+    [[nodiscard]] bool isOpening() const;
+    [[nodiscard]] bool showsAWindow() const;
     QAction *addSharedItem(const char *name, const char *text, int tag, const QKeySequence &keys,
                            void (MyDocument::*invoke)());
 
@@ -89,5 +110,6 @@ private:
     std::unique_ptr<SystemPasteboard> m_pasteboard;
     std::vector<std::unique_ptr<MyDocument>> m_documents;
     MyDocument *m_keyDocument = nullptr;
+    std::vector<std::function<void()>> m_afterOpening;
     int m_lastNumber = 0;
 };

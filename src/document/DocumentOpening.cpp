@@ -5,9 +5,9 @@
 #include "document/DocumentTypes.h"
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
+#include "imageview/PictureMemory.h"
 #include "platform/Texts.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -23,6 +23,20 @@ QString identityOf(const QString &path)
     return real.isEmpty() ? file.absoluteFilePath() : real;
 }
 
+/// What a crash left, read whole in any thread.
+RecoveredDocument readRecovered(const QString &key, const std::stop_token &stop,
+                                std::atomic<int> *percentDecoded)
+{
+    RecoveredDocument recovered{RecoveryStore::read(key), {}};
+    if (!recovered.document || stop.stop_requested())
+        return recovered;
+    documentarchive::Reading reading{std::move(recovered.document->root), {}};
+    documentfile::decodePicture(reading, picturememory::available(), stop, percentDecoded);
+    recovered.document->root = std::move(reading.root);
+    recovered.damages = std::move(reading.damages);
+    return recovered;
+}
+
 QString titleFor(const char *key, const QString &path)
 {
     return texts::localized(key).arg(QFileInfo(path).fileName());
@@ -35,7 +49,7 @@ void DocumentController::start(const QStringList &paths)
     openFiles(paths);
     if (m_documents.empty())
         newDocument();
-    offerRecovered();
+    afterOpening([this] { offerRecovered(); });
 }
 
 void DocumentController::reopen()
@@ -73,43 +87,100 @@ void DocumentController::open(const QString &path)
 
 void DocumentController::readDocument(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(path, file.errorString());
-        return;
-    }
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        refuse(path, file.errorString());
+    if (!QFileInfo(path).isFile()) {
+        refuse(path, texts::localized("document.open.noFile"));
         return;
     }
     MyDocument &document = documentForOpening();
+    const bool isNew = !document.window().isVisible();
     document.setFileUrl(QUrl::fromLocalFile(path));
-    if (document.loadDataRepresentation(bytes, QLatin1String(documenttypes::curvegrabDocument))) {
-        finishOpening(document);
-        document.wasSavedTo(path);
+    if (!isNew)
+        document.raise();
+    document.readInBackground(
+        QFileInfo(path).fileName(),
+        [this, &document, isNew, path](const std::stop_token &stop, std::atomic<int> &percent) {
+            documentfile::Document read =
+                documentfile::read(path, picturememory::available(), stop, &percent);
+            return [this, &document, isNew, path, read = std::move(read)] {
+                wasRead(document, isNew, path, read);
+            };
+        },
+        [this, &document, isNew] { giveUpOpening(document, isNew); });
+}
+
+void DocumentController::wasRead(MyDocument &document, bool isNew, const QString &path,
+                                 const documentfile::Document &read)
+{
+    if (!read.error.isEmpty()) {
+        giveUpOpening(document, isNew);
+        refuse(path, read.error);
+        return;
+    }
+    if (document.loadReading(read.reading)) {
+        show(document);
+        document.wasReadFrom(path, read.stamp);
     } else {
         document.setFileUrl(QUrl());
         offerRemains(document, path);
     }
+    openingEnded();
 }
 
 void DocumentController::readPicture(const QString &path)
 {
     MyDocument &document = documentForOpening();
     document.setFileUrl(QUrl::fromLocalFile(path));
-    if (document.loadDataRepresentation({}, QFileInfo(path).suffix()))
-        finishOpening(document);
+    if (document.loadDataRepresentation({}, QFileInfo(path).suffix())) {
+        show(document);
+        document.raise();
+    }
     m_recentFiles.add(path);
 }
 
-void DocumentController::finishOpening(MyDocument &document)
+// A window that was on the screen while its file was read stays where the user has put it.
+void DocumentController::show(MyDocument &document)
 {
-    if (document.window().isVisible())
+    if (document.window().isVisible()) {
         document.showLoaded();
-    else
-        document.showWindow();
+        return;
+    }
+    document.showWindow();
     document.raise();
+}
+
+// The window that was made for the file goes again, but not the last one.
+void DocumentController::giveUpOpening(MyDocument &document, bool isNew)
+{
+    document.setFileUrl(QUrl());
+    const bool isOnly =
+        std::none_of(m_documents.begin(), m_documents.end(), [&document](const auto &other) {
+            return other.get() != &document && other->window().isVisible();
+        });
+    if (isNew && !isOnly)
+        document.window().close();
+    else if (!document.window().isVisible())
+        document.showWindow();
+    openingEnded();
+}
+
+bool DocumentController::isOpening() const
+{
+    return std::any_of(m_documents.begin(), m_documents.end(),
+                       [](const auto &document) { return document->isReading(); });
+}
+
+void DocumentController::afterOpening(std::function<void()> action)
+{
+    m_afterOpening.push_back(std::move(action));
+    openingEnded();
+}
+
+void DocumentController::openingEnded()
+{
+    if (isOpening() || m_documents.empty())
+        return;
+    for (const std::function<void()> &action : std::exchange(m_afterOpening, {}))
+        action();
 }
 
 // The message stands at the window that what is left is to be shown in.
@@ -142,50 +213,93 @@ void DocumentController::offerRecovered()
     const QStringList remains = m_recovery.remains();
     QStringList names;
     for (const QString &key : remains) {
-        if (const auto document = RecoveryStore::read(key))
+        if (const auto document = RecoveryStore::readWithoutPicture(key))
             names.append(document->name);
         else
             RecoveryStore::remove(key);
     }
     if (names.isEmpty())
         return;
-    documentForMessages().sheets().present(
-        {texts::localized("document.recovery.title"),
-         texts::localized("document.recovery.text").arg(names.join(QLatin1Char('\n'))),
-         texts::localized("document.recovery.bringBack"),
-         texts::localized("document.recovery.later"),
-         texts::localized("document.recovery.discard")},
-        [this, remains](SheetAnswer answer) {
-            for (const QString &key : remains) {
-                if (answer == SheetAnswer::Default)
-                    bringBack(key);
-                else if (answer == SheetAnswer::Other)
-                    RecoveryStore::remove(key);
-            }
-        });
+    MyDocument &document = documentForMessages();
+    // A question finds its place over a window only where that has one.
+    document.whenOnScreen([this, &document, remains, names] {
+        document.sheets().present(
+            {texts::localized("document.recovery.title"),
+             texts::localized("document.recovery.text").arg(names.join(QLatin1Char('\n'))),
+             texts::localized("document.recovery.bringBack"),
+             texts::localized("document.recovery.later"),
+             texts::localized("document.recovery.discard")},
+            [this, remains](SheetAnswer answer) { recoveryAnswered(remains, answer); });
+    });
 }
 
-// What was kept goes only once it is kept anew.
+void DocumentController::recoveryAnswered(const QStringList &remains, SheetAnswer answer)
+{
+    for (const QString &key : remains) {
+        if (answer == SheetAnswer::Default)
+            bringBack(key);
+        else if (answer == SheetAnswer::Other)
+            RecoveryStore::remove(key);
+    }
+}
+
 void DocumentController::bringBack(const QString &key)
 {
-    std::optional<RecoveryStore::Document> recovered = RecoveryStore::read(key);
+    const std::optional<RecoveryStore::Document> recovered = RecoveryStore::readWithoutPicture(key);
     if (!recovered)
         return;
     MyDocument *shown = recovered->path.isEmpty() ? nullptr : documentOf(recovered->path);
-    if (shown != nullptr && shown->isDocumentEdited()) {
-        // Newer work on the same file: this becomes a document of its own.
-        shown = nullptr;
-        recovered->path.clear();
-        recovered->fileStamp.reset();
+    // Newer work on the same file: this becomes a document of its own.
+    const bool isApart = shown != nullptr && (shown->isDocumentEdited() || shown->isReading());
+    MyDocument &document = shown != nullptr && !isApart ? *shown : documentForOpening();
+    const bool isNew = !document.window().isVisible();
+    document.readInBackground(
+        recovered->name,
+        [this, &document, key, isApart](const std::stop_token &stop, std::atomic<int> &percent) {
+            RecoveredDocument whole = readRecovered(key, stop, &percent);
+            if (isApart && whole.document) {
+                whole.document->path.clear();
+                whole.document->fileStamp.reset();
+            }
+            return [this, &document, key, whole = std::move(whole)] {
+                wasBroughtBack(document, key, whole);
+            };
+        },
+        [this, &document, isNew] { giveUpOpening(document, isNew); });
+}
+
+// What was kept goes only once it is kept anew, and not if there is more in it.
+void DocumentController::wasBroughtBack(MyDocument &document, const QString &key,
+                                        const RecoveredDocument &recovered)
+{
+    if (!recovered.document) {
+        giveUpOpening(document, !document.window().isVisible());
+        return;
     }
-    MyDocument &document = shown != nullptr ? *shown : documentForOpening();
-    document.loadRecovered(std::move(*recovered));
-    finishOpening(document);
-    if (document.keepSafeNow())
+    document.loadRecovered(*recovered.document);
+    show(document);
+    if (!recovered.damages.empty())
+        document.sheets().present(
+            {texts::localized("document.open.damagedTitle").arg(recovered.document->name),
+             documentarchive::description(recovered.damages),
+             texts::localized("OK"),
+             QString(),
+             {}},
+            {});
+    else if (document.keepSafeNow())
         RecoveryStore::remove(key);
+    openingEnded();
 }
 
 void DocumentController::refuse(const QString &path, const QString &reason)
+{
+    if (isOpening() && !showsAWindow())
+        afterOpening([this, path, reason] { presentRefusal(path, reason); });
+    else
+        presentRefusal(path, reason);
+}
+
+void DocumentController::presentRefusal(const QString &path, const QString &reason)
 {
     documentForMessages().sheets().present({titleFor("document.open.failedTitle", path),
                                             reason,
@@ -201,7 +315,8 @@ MyDocument *DocumentController::documentOf(const QString &path) const
     const auto found =
         std::find_if(m_documents.begin(), m_documents.end(), [&wanted](const auto &document) {
             const QString own = document->fileUrl().toLocalFile();
-            return !own.isEmpty() && document->fileStamp() && identityOf(own) == wanted;
+            const bool comesFromIt = document->fileStamp() || document->isReading();
+            return !own.isEmpty() && comesFromIt && identityOf(own) == wanted;
         });
     return found == m_documents.end() ? nullptr : found->get();
 }
@@ -218,7 +333,10 @@ MyDocument &DocumentController::documentForOpening()
 
 MyDocument &DocumentController::documentForMessages()
 {
-    if (m_documents.empty())
+    if (m_keyDocument != nullptr)
+        return *m_keyDocument;
+    if (!showsAWindow())
         newDocument();
-    return m_keyDocument != nullptr ? *m_keyDocument : *m_documents.back();
+    return **std::find_if(m_documents.rbegin(), m_documents.rend(),
+                          [](const auto &document) { return document->window().isVisible(); });
 }

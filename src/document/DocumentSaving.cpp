@@ -1,13 +1,14 @@
 #include "document/DocumentSaving.h"
 
+#include "document/DocumentFile.h"
 #include "document/DocumentServices.h"
 #include "document/DocumentTypes.h"
 #include "document/MyDocument.h"
 #include "imageview/GraphImageView.h"
+#include "imageview/PictureMemory.h"
 #include "platform/DurableFile.h"
 #include "platform/Texts.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStatusBar>
 
@@ -160,21 +161,29 @@ void DocumentSaving::revert()
 void DocumentSaving::reread()
 {
     const QString path = m_document.fileUrl().toLocalFile();
-    QFile file(path);
-    QString reason;
-    if (!file.open(QIODevice::ReadOnly))
-        reason = file.errorString();
-    else if (!m_document.loadDataRepresentation(file.readAll(),
-                                                QLatin1String(documenttypes::curvegrabDocument)))
+    m_document.readInBackground(
+        QFileInfo(path).fileName(),
+        [this, path](const std::stop_token &stop, std::atomic<int> &percent) {
+            documentfile::Document read =
+                documentfile::read(path, picturememory::available(), stop, &percent);
+            return [this, path, read = std::move(read)] { wasReread(path, read); };
+        },
+        [] {});
+}
+
+void DocumentSaving::wasReread(const QString &path, const documentfile::Document &read)
+{
+    QString reason = read.error;
+    if (reason.isEmpty() && !m_document.loadReading(read.reading))
         reason = documentarchive::description(m_document.refusedReading().damages);
-    if (!reason.isEmpty()) {
-        m_dialogs.sheets->present({withName("document.open.failedTitle", path),
-                                   reason,
-                                   texts::localized("OK"),
-                                   QString(),
-                                   {}},
-                                  {});
+    if (reason.isEmpty()) {
+        m_document.revertToLoaded(read.stamp);
         return;
     }
-    m_document.revertToLoaded();
+    m_dialogs.sheets->present({withName("document.open.failedTitle", path),
+                               reason,
+                               texts::localized("OK"),
+                               QString(),
+                               {}},
+                              {});
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/DocumentFile.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -42,6 +44,7 @@ private:
     void refused(const QString &path, const QString &reason);
     void askToOverwrite(const char *textKey, const QString &path, const Saved &saved);
     void reread();
+    void wasReread(const QString &path, const documentfile::Document &read);
 
     MyDocument &m_document;
     const WindowDialogs &m_dialogs;

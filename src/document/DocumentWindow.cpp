@@ -14,6 +14,7 @@
 #include <QDragEnterEvent>
 #include <QEvent>
 #include <QGroupBox>
+#include <QMenuBar>
 #include <QMimeData>
 
 #include <algorithm>
@@ -133,6 +134,19 @@ void DocumentWindow::showEmptyHint(bool shown) { m_emptyHint->setVisible(shown);
 void DocumentWindow::offerExamples(QMenu &examples) { m_emptyHint->offer(examples); }
 
 void DocumentWindow::showScale(const QString &text) { m_ui->zoomLabel->setText(text); }
+
+void DocumentWindow::setBlocked(bool blocked)
+{
+    if (blocked)
+        m_focusBeforeBlocking = focusWidget();
+    setUpdatesEnabled(!blocked); // most of it is over before anybody could see it
+    centralWidget()->setEnabled(!blocked);
+    menuBar()->setEnabled(!blocked);
+    if (!blocked && m_focusBeforeBlocking != nullptr)
+        m_focusBeforeBlocking->setFocus();
+}
+
+void DocumentWindow::showBlocked() { setUpdatesEnabled(true); }
 
 void DocumentWindow::applyIcons()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <memory>
 
@@ -35,6 +36,11 @@ public:
     /// The magnification beside the slider; empty text without a picture.
     void showScale(const QString &text);
 
+    /// Takes the menus and controls away while the document is not what it will be, and gives them
+    /// back. The window does not show it before showBlocked().
+    void setBlocked(bool blocked);
+    void showBlocked();
+
 protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -54,4 +60,5 @@ private:
     const std::unique_ptr<Ui::MyDocument> m_ui;
     StatusLine *m_status;
     EmptyPictureHint *m_emptyHint;
+    QPointer<QWidget> m_focusBeforeBlocking;
 };

@@ -62,6 +62,7 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     m_saving = std::make_unique<DocumentSaving>(*this, m_dialogs, *m_window->ui().statusBar);
     m_recovery = std::make_unique<DocumentRecovery>(*this, services.recoveryStore(),
                                                     *m_window->ui().statusBar);
+    makeReading();
     showTitle();
     showsChanged();
 }
@@ -319,6 +320,7 @@ void MyDocument::windowDidResignKey()
 
 bool MyDocument::windowShouldClose()
 {
+    m_reading->abandon();
     if (m_closeAgreed || (!isDocumentEdited() && !m_saving->isBusy()))
         return true;
     closeThen({});

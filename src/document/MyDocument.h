@@ -6,6 +6,7 @@
 #include "document/MenuRules.h"
 #include "document/RecoveryStore.h"
 #include "geometry/FloatGeometry.h"
+#include "imageview/BackgroundReading.h"
 #include "platform/ChangeKind.h"
 #include "platform/DurableFile.h"
 #include "platform/UndoManager.h"
@@ -52,6 +53,9 @@ public:
     /// Sets the window up and shows it.
     void showWindow();
 
+    /// Runs `action` once the desktop has given the window its place.
+    void whenOnScreen(std::function<void()> action);
+
     /// The file that a plain save writes; a picture's document has one before it is written.
     [[nodiscard]] const QUrl &fileUrl() const { return m_fileUrl; }
     void setFileUrl(const QUrl &url);
@@ -62,6 +66,8 @@ public:
     /// type) notes that the file at fileUrl() is a picture; false if it is neither. The window is
     /// not touched.
     [[nodiscard]] bool loadDataRepresentation(const QByteArray &data, const QString &ofType);
+    /// The same with the content of a document file that was read already, with its picture.
+    [[nodiscard]] bool loadReading(documentarchive::Reading reading);
     /// After a document file was refused: what is wrong with it, and what is left of it.
     [[nodiscard]] const documentarchive::Reading &refusedReading() const { return m_refused; }
     /// Takes what is left of a damaged document; it is a new one, and modified.
@@ -86,12 +92,21 @@ public:
     /// Keeps unsaved changes safe from a crash without waiting; false if the disk refused.
     bool keepSafeNow();
 
+    /// Reads in the background what the document is to show; `work` and `cancelled` are as
+    /// BackgroundReading::begin() has them. Until then the window takes nothing but the
+    /// cancelling; one that is not on the screen yet comes there if the reading takes long.
+    void readInBackground(const QString &name, BackgroundReading::Work work,
+                          BackgroundReading::Handler cancelled);
+    [[nodiscard]] bool isReading() const;
+
     /// Whether nothing was ever done in this window, so that a file may be opened in it.
     [[nodiscard]] bool isUntouched() const;
-    /// The document was written to, or just read from, the file at `path`.
+    /// The document was written to the file at `path`.
     void wasSavedTo(const QString &path);
+    /// The document was read from the file at `path`, which was then as `stamp` says.
+    void wasReadFrom(const QString &path, const std::optional<durablefile::Stamp> &stamp);
     /// Shows what was loaded from the file again, and forgets the rest.
-    void revertToLoaded();
+    void revertToLoaded(const std::optional<durablefile::Stamp> &stamp);
     /// Shows what was loaded, in a window that may be in use.
     void showLoaded();
     /// Closes the window, after asking about changes; `closed` runs only if it was.
@@ -230,7 +245,8 @@ protected:
 private:
     void makeComponents();
     void wire();
-    void whenOnScreen(std::function<void()> action);
+    void makeReading();
+    void hasFile(const QString &path, const std::optional<durablefile::Stamp> &stamp);
     void restore(const ArchiveDictionary &root);
     void restoreWindow(const ArchiveDictionary &root);
     void applyFrame(const QRect &frame);
@@ -280,6 +296,7 @@ private:
     std::unique_ptr<SeriesExport> m_seriesExport;
     std::unique_ptr<DocumentSaving> m_saving;
     std::unique_ptr<DocumentRecovery> m_recovery;
+    std::unique_ptr<BackgroundReading> m_reading;
     DocumentMenus *m_menus = nullptr;   // owned by the window
     DocumentStatus *m_status = nullptr; // owned by the window
     ToolPalette *m_tools = nullptr;     // owned by the window

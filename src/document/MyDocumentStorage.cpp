@@ -5,6 +5,7 @@
 #include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
 #include "capture/DataTableView.h"
+#include "document/DocumentFile.h"
 #include "document/DocumentKeys.h"
 #include "document/DocumentRecovery.h"
 #include "document/DocumentSaving.h"
@@ -12,8 +13,8 @@
 #include "document/DocumentWindow.h"
 #include "document/RecentFiles.h"
 #include "document/WindowFrame.h"
-#include "imageview/ArchivedPicture.h"
 #include "imageview/GraphImageView.h"
+#include "imageview/PictureMemory.h"
 #include "platform/GeometryText.h"
 #include "ui_MyDocument.h"
 
@@ -45,25 +46,6 @@ QList<QRect> usableScreens()
 
 ArchiveValue integerValue(int value) { return {std::int64_t{value}}; }
 
-/// Leaves a picture that cannot be decoded out of `root`; false if there is one.
-bool dropDamagedPicture(ArchiveDictionary &root)
-{
-    const ArchiveDictionary *stored = root.dictionaryForKey(documentkeys::graphImageViewData);
-    if (stored == nullptr)
-        return true;
-    const auto picture =
-        std::dynamic_pointer_cast<const ArchivedPicture>(stored->objectForKey("Original Image"));
-    if (picture == nullptr || picture->picture())
-        return true;
-    ArchiveDictionary view;
-    for (const auto &[key, value] : stored->entries()) {
-        if (key != "Original Image")
-            view.set(key, value);
-    }
-    root.set(documentkeys::graphImageViewData, {view});
-    return false;
-}
-
 } // namespace
 
 void MyDocument::showWindow()
@@ -93,9 +75,12 @@ bool MyDocument::loadDataRepresentation(const QByteArray &data, const QString &o
         return m_openImageDirect;
     }
     documentarchive::Reading reading = documentarchive::unarchived(data);
-    if (!dropDamagedPicture(reading.root))
-        reading.damages.push_back(
-            {documentarchive::Fault::DamagedPicture, documentkeys::graphImageViewData, 0});
+    documentfile::decodePicture(reading, picturememory::available());
+    return loadReading(std::move(reading));
+}
+
+bool MyDocument::loadReading(documentarchive::Reading reading)
+{
     if (!reading.isWhole()) {
         m_refused = std::move(reading);
         return false;
@@ -274,15 +259,22 @@ void MyDocument::openOwnPicture()
 
 bool MyDocument::isUntouched() const
 {
-    return m_fileUrl.isEmpty() && !isDocumentEdited() && !hasImage() && !m_openImageDirect &&
-           !m_undoManager.canUndo() && !m_undoManager.canRedo() &&
+    return m_fileUrl.isEmpty() && !isReading() && !isDocumentEdited() && !hasImage() &&
+           !m_openImageDirect && !m_undoManager.canUndo() && !m_undoManager.canRedo() &&
            m_dataSeries->validSeries().empty();
 }
 
-void MyDocument::wasSavedTo(const QString &path)
+void MyDocument::wasSavedTo(const QString &path) { hasFile(path, durablefile::stampOf(path)); }
+
+void MyDocument::wasReadFrom(const QString &path, const std::optional<durablefile::Stamp> &stamp)
+{
+    hasFile(path, stamp);
+}
+
+void MyDocument::hasFile(const QString &path, const std::optional<durablefile::Stamp> &stamp)
 {
     m_fileUrl = QUrl::fromLocalFile(path);
-    m_fileStamp = durablefile::stampOf(path);
+    m_fileStamp = stamp;
     m_undoManager.closeGroup();
     updateChangeCount(ChangeKind::Cleared);
     m_services.recentFiles().add(path);
@@ -299,15 +291,37 @@ void MyDocument::showLoaded()
     windowControllerDidLoadNib();
 }
 
-void MyDocument::revertToLoaded()
+void MyDocument::revertToLoaded(const std::optional<durablefile::Stamp> &stamp)
 {
     showLoaded();
-    m_fileStamp = durablefile::stampOf(m_fileUrl.toLocalFile());
+    m_fileStamp = stamp;
 }
+
+void MyDocument::makeReading()
+{
+    m_reading = std::make_unique<BackgroundReading>(*m_window);
+    connect(m_reading.get(), &BackgroundReading::ended, this,
+            [this] { m_window->setBlocked(false); });
+    connect(m_reading.get(), &BackgroundReading::tookLong, this, [this] {
+        if (!m_window->isVisible())
+            showWindow();
+        m_window->showBlocked();
+    });
+}
+
+void MyDocument::readInBackground(const QString &name, BackgroundReading::Work work,
+                                  BackgroundReading::Handler cancelled)
+{
+    m_window->setBlocked(true);
+    m_reading->begin(name, std::move(work), std::move(cancelled));
+}
+
+bool MyDocument::isReading() const { return m_reading->isReading(); }
 
 // A save under way has the last word on whether there is anything to ask.
 void MyDocument::closeThen(std::function<void()> closed)
 {
+    m_reading->abandon();
     if (m_saving->isBusy()) {
         m_saving->whenSaved([this, closed = std::move(closed)] { closeThen(closed); });
         return;

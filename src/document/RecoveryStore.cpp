@@ -1,8 +1,10 @@
 #include "document/RecoveryStore.h"
 
 #include "document/DocumentArchive.h"
+#include "document/DocumentFile.h"
 #include "document/DocumentKeys.h"
 #include "imageview/ArchivedPicture.h"
+#include "imageview/PictureMemory.h"
 #include "platform/Texts.h"
 
 #include <QDateTime>
@@ -55,10 +57,9 @@ std::optional<durablefile::Stamp> stampIn(const ArchiveDictionary &root)
 
 void putPicture(ArchiveDictionary &root, const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const QByteArray content = documentfile::contentOf(path, picturememory::available()).bytes;
+    if (content.isEmpty())
         return;
-    const QByteArray content = file.readAll();
     const auto *first = reinterpret_cast<const std::byte *>(content.constData());
     auto bytes = std::make_shared<const std::vector<std::byte>>(first, first + content.size());
     ArchiveDictionary view;
@@ -146,7 +147,7 @@ QStringList RecoveryStore::remains()
     return m_remains;
 }
 
-std::optional<RecoveryStore::Document> RecoveryStore::read(const QString &key)
+std::optional<RecoveryStore::Document> RecoveryStore::readWithoutPicture(const QString &key)
 {
     QFile file(key);
     if (!file.open(QIODevice::ReadOnly))
@@ -158,10 +159,18 @@ std::optional<RecoveryStore::Document> RecoveryStore::read(const QString &key)
     document.path = QString::fromStdString(reading.root.stringForKey(pathKey));
     document.name = QString::fromStdString(reading.root.stringForKey(nameKey));
     document.fileStamp = stampIn(reading.root);
-    const QString pictureName = QString::fromStdString(reading.root.stringForKey(pictureKey));
-    if (!pictureName.isEmpty())
-        putPicture(reading.root, picturePath(key, pictureName));
     document.root = std::move(reading.root);
+    return document;
+}
+
+std::optional<RecoveryStore::Document> RecoveryStore::read(const QString &key)
+{
+    std::optional<Document> document = readWithoutPicture(key);
+    if (!document)
+        return std::nullopt;
+    const QString pictureName = QString::fromStdString(document->root.stringForKey(pictureKey));
+    if (!pictureName.isEmpty())
+        putPicture(document->root, picturePath(key, pictureName));
     return document;
 }
 

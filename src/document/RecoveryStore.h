@@ -34,8 +34,11 @@ public:
 
     /// What programs left that ended without warning. Nobody else is offered it meanwhile.
     [[nodiscard]] QStringList remains();
-    /// What is kept under `key`, as far as it can be read; nothing if it is no document.
+    /// What is kept under `key`, as far as it can be read; nothing if it is no document. May run in
+    /// any thread.
     [[nodiscard]] static std::optional<Document> read(const QString &key);
+    /// The same without the picture, which takes longest.
+    [[nodiscard]] static std::optional<Document> readWithoutPicture(const QString &key);
 
     /// The key of a document that is to be kept; empty if the disk takes none.
     [[nodiscard]] QString newKey();

@@ -1,6 +1,9 @@
 #include "imageview/ArchivedPicture.h"
 
+#include "imageview/PictureFile.h"
 #include "imageview/PictureMemory.h"
+#include "imageview/PictureReader.h"
+#include "imageview/PictureSource.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -127,26 +130,35 @@ std::optional<FloatSize> ArchivedPicture::size() const
     return sizeOf(pixels, reader.text(sizeKey));
 }
 
-std::optional<Picture> ArchivedPicture::picture() const
+std::optional<PictureProblem> ArchivedPicture::decode(std::uint64_t memoryLimit,
+                                                      const std::stop_token &stop,
+                                                      std::atomic<int> *percentDecoded) const
 {
-    if (!m_picture)
-        m_picture = decoded();
-    return m_picture;
+    if (m_picture)
+        return {};
+    if (!chunksAreThere(*m_bytes))
+        return PictureProblem::Damaged;
+    PictureFile file(PictureSource::handedOver(rawBytes(*m_bytes), QStringLiteral("image/png")),
+                     stop, percentDecoded);
+    if (!file.open(QIODevice::ReadOnly))
+        return PictureProblem::Damaged;
+    QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
+    QImageReader reader(&file, "png");
+    if (!reader.size().isEmpty() && !picturememory::fits(reader, memoryLimit))
+        return PictureProblem::TooLarge;
+    QImage pixels = reader.read();
+    if (stop.stop_requested())
+        return PictureProblem::Cancelled;
+    if (pixels.isNull())
+        return PictureProblem::Damaged;
+    const FloatSize size = sizeOf(pixels.size(), pixels.text(sizeKey));
+    m_picture = Picture::fromPixels(std::move(pixels), size);
+    return m_picture ? std::nullopt : std::optional(PictureProblem::TooLarge);
 }
 
-std::optional<Picture> ArchivedPicture::decoded() const
+std::optional<Picture> ArchivedPicture::picture() const
 {
-    if (!chunksAreThere(*m_bytes))
+    if (decode(picturememory::available()))
         return {};
-    QByteArray bytes = rawBytes(*m_bytes);
-    QBuffer buffer(&bytes);
-    QImageReader::setAllocationLimit(0);
-    QImageReader reader(&buffer, "png");
-    if (!picturememory::fits(reader, picturememory::available()))
-        return {};
-    QImage pixels = reader.read();
-    if (pixels.isNull())
-        return {};
-    const FloatSize size = sizeOf(pixels.size(), pixels.text(sizeKey));
-    return Picture::fromPixels(std::move(pixels), size);
+    return m_picture;
 }

@@ -3,9 +3,14 @@
 #include "archiving/SequentialCoder.h"
 #include "imageview/Picture.h"
 
+#include <atomic>
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string_view>
+
+enum class PictureProblem;
 
 /// A picture in the form in which documents hold it: the bytes of a PNG file, made once per
 /// picture, which also tell its exact size in points.
@@ -30,14 +35,19 @@ public:
     /// The picture's size in points, from the head of the bytes; nothing if that is damaged.
     [[nodiscard]] std::optional<FloatSize> size() const;
 
-    /// The bytes as a picture, decoded once; nothing if they are damaged.
+    /// Decodes the bytes unless that was done before. The problem, if there is one, is that they
+    /// are Damaged, that the picture is TooLarge for `memoryLimit` bytes, or that `stop` was
+    /// requested (Cancelled). `percentDecoded`, which may be null, follows the progress. May run in
+    /// any thread, but in one at a time.
+    [[nodiscard]] std::optional<PictureProblem>
+    decode(std::uint64_t memoryLimit, const std::stop_token &stop = {},
+           std::atomic<int> *percentDecoded = nullptr) const;
+    /// The bytes as a picture, decoded once; nothing if they are damaged or there is no room.
     [[nodiscard]] std::optional<Picture> picture() const;
 
     [[nodiscard]] const ArchivedBytes &bytes() const { return m_bytes; }
 
 private:
-    [[nodiscard]] std::optional<Picture> decoded() const;
-
     ArchivedBytes m_bytes;
     mutable std::optional<Picture> m_picture;
 };

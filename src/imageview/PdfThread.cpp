@@ -2,65 +2,12 @@
 
 #include "imageview/PictureMemory.h"
 #include "imageview/ZKPdfDocument.h"
+#include "platform/WindingUp.h"
 
-#include <chrono>
 #include <condition_variable>
 #include <deque>
-#include <future>
-#include <iterator>
-#include <list>
 #include <mutex>
-#include <thread>
 #include <utility>
-
-namespace {
-
-/// How long the end of the program waits for a page that is being painted.
-constexpr std::chrono::seconds longestWindingUp{5};
-
-/// A thread, and the promise that it keeps when it has nothing left to do.
-struct Worker
-{
-    std::thread thread;
-    std::future<void> ended;
-};
-
-/// The threads whose files were closed. Closing a window must not wait for a slow page, but the
-/// program must not end under one either, unless that takes too long.
-class WindingUp
-{
-public:
-    static void leave(Worker worker)
-    {
-        static WindingUp threads;
-        threads.m_workers.push_back(std::move(worker));
-        for (auto old = threads.m_workers.begin(); old != threads.m_workers.end();)
-            old = joined(*old, {}) ? threads.m_workers.erase(old) : std::next(old);
-    }
-
-    WindingUp() = default;
-    WindingUp(const WindingUp &) = delete;
-    WindingUp &operator=(const WindingUp &) = delete;
-    ~WindingUp()
-    {
-        for (Worker &worker : m_workers)
-            if (!joined(worker, longestWindingUp))
-                worker.thread.detach();
-    }
-
-private:
-    static bool joined(Worker &worker, std::chrono::seconds patience)
-    {
-        if (worker.ended.wait_for(patience) != std::future_status::ready)
-            return false;
-        worker.thread.join();
-        return true;
-    }
-
-    std::list<Worker> m_workers;
-};
-
-} // namespace
 
 /// What the two threads share.
 struct PdfThread::Desk
@@ -70,7 +17,7 @@ struct PdfThread::Desk
     PdfThread *asking = nullptr; ///< null when nobody waits for answers any more
     std::deque<Work> work;
     Work preview;
-    Worker worker; ///< used by the asking thread only
+    windingup::Worker worker; ///< used by the asking thread only
 
     [[nodiscard]] bool hasWork() const { return !work.empty() || preview; }
     [[nodiscard]] Work takeNext()
@@ -88,12 +35,7 @@ PdfThread::PdfThread(const QString &path)
     , m_desk(std::make_shared<Desk>())
 {
     m_desk->asking = this;
-    std::promise<void> ended;
-    m_desk->worker.ended = ended.get_future();
-    m_desk->worker.thread = std::thread([desk = m_desk, ended = std::move(ended)]() mutable {
-        run(desk);
-        ended.set_value();
-    });
+    m_desk->worker = windingup::begin([desk = m_desk] { run(desk); });
 }
 
 PdfThread::~PdfThread()
@@ -105,7 +47,7 @@ PdfThread::~PdfThread()
         m_desk->preview = {};
     }
     m_desk->wake.notify_one();
-    WindingUp::leave(std::move(m_desk->worker));
+    windingup::leave(std::move(m_desk->worker));
 }
 
 void PdfThread::run(const std::shared_ptr<Desk> &desk)

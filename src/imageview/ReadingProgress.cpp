@@ -3,6 +3,7 @@
 #include "platform/Texts.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -12,21 +13,21 @@ ReadingProgress::ReadingProgress(QWidget &host)
     : QFrame(&host)
     , m_label(new QLabel(this))
     , m_bar(new QProgressBar(this))
+    , m_cancelButton(new QPushButton(texts::localized("Cancel"), this))
 {
     setObjectName(QStringLiteral("readingProgress"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setAutoFillBackground(true);
-    auto *button = new QPushButton(texts::localized("Cancel"), this);
-    button->setObjectName(QStringLiteral("cancelReadingButton"));
-    button->setToolTip(texts::localized("imageview.reading.cancel-tip"));
-    m_label->setBuddy(button);
+    m_cancelButton->setObjectName(QStringLiteral("cancelReadingButton"));
+    m_cancelButton->setToolTip(texts::localized("imageview.reading.cancel-tip"));
+    m_label->setBuddy(m_cancelButton);
     m_bar->setRange(0, 100);
     m_bar->setAccessibleName(texts::localized("imageview.reading.progress-name"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_label);
     layout->addWidget(m_bar);
-    layout->addWidget(button, 0, Qt::AlignRight);
-    connect(button, &QPushButton::clicked, this, &ReadingProgress::cancelled);
+    layout->addWidget(m_cancelButton, 0, Qt::AlignRight);
+    connect(m_cancelButton, &QPushButton::clicked, this, &ReadingProgress::cancelled);
     host.installEventFilter(this);
     hide();
 }
@@ -52,9 +53,26 @@ void ReadingProgress::appear()
     moveToMiddle();
     show();
     raise();
+    takeFocusIfNobodyHasIt();
+}
+
+// Where the window can be used meanwhile, its user goes on typing.
+void ReadingProgress::takeFocusIfNobodyHasIt()
+{
+    const QWidget *has = window()->focusWidget();
+    if (has == nullptr || !has->isEnabled() || !has->isVisible())
+        m_cancelButton->setFocus();
 }
 
 void ReadingProgress::setPercent(int percent) { m_bar->setValue(percent); }
+
+void ReadingProgress::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        Q_EMIT cancelled();
+    else
+        QFrame::keyPressEvent(event);
+}
 
 bool ReadingProgress::eventFilter(QObject *watched, QEvent *event)
 {

@@ -4,6 +4,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 /// The panel over the picture that shows how far the reading of a large file has come. It
 /// blocks nothing, and offers to stop.
@@ -24,12 +25,15 @@ Q_SIGNALS:
     void cancelled();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void appear();
     void moveToMiddle();
+    void takeFocusIfNobodyHasIt();
 
     QLabel *m_label;
     QProgressBar *m_bar;
+    QPushButton *m_cancelButton;
 };

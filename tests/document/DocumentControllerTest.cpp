@@ -31,6 +31,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using sampleroots::Kind;
 
 namespace {
@@ -108,6 +110,37 @@ protected:
         return *controller.documents().at(index);
     }
 
+    void waitUntilRead() const
+    {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] {
+                return std::none_of(controller.documents().begin(), controller.documents().end(),
+                                    [](const auto &document) { return document->isReading(); });
+            },
+            30'000));
+    }
+
+    void start(const QStringList &paths)
+    {
+        controller.start(paths);
+        waitUntilRead();
+    }
+
+    void openFiles(const QStringList &paths)
+    {
+        controller.openFiles(paths);
+        waitUntilRead();
+    }
+
+    /// Cancels the reading of a document before it can end.
+    static void cancelReading(const MyDocument &document)
+    {
+        ASSERT_TRUE(document.isReading());
+        for (auto *panel : document.window().findChildren<QWidget *>(
+                 QStringLiteral("readingProgress"), Qt::FindDirectChildrenOnly))
+            panel->findChild<QPushButton *>(QStringLiteral("cancelReadingButton"))->click();
+    }
+
     [[nodiscard]] static QMessageBox *sheetOf(const MyDocument &document)
     {
         QMessageBox *found = nullptr;
@@ -181,7 +214,7 @@ TEST_F(DocumentControllerTest, preferencesMayChangeWhileAWindowAsksWhetherToSave
 
 TEST_F(DocumentControllerTest, startsWithOneEmptyWindow)
 {
-    controller.start({});
+    start({});
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_TRUE(document().isUntouched());
     EXPECT_EQ(document().drawerOpenButtonState(), 0);
@@ -189,7 +222,7 @@ TEST_F(DocumentControllerTest, startsWithOneEmptyWindow)
 
 TEST_F(DocumentControllerTest, opensEachFileInAWindowOfItsOwn)
 {
-    controller.start({putDocument("a.crvgrab"), putDocument("B.CRVGRAB"), putPicture("c.png")});
+    start({putDocument("a.crvgrab"), putDocument("B.CRVGRAB"), putPicture("c.png")});
     ASSERT_EQ(controller.documents().size(), 3U);
     EXPECT_EQ(document(0).dataSeries().maxRows(), 5);
     EXPECT_FALSE(document(0).isDocumentEdited());
@@ -200,15 +233,15 @@ TEST_F(DocumentControllerTest, opensEachFileInAWindowOfItsOwn)
 
 TEST_F(DocumentControllerTest, anUntouchedWindowIsUsedForAFile)
 {
-    controller.start({});
+    start({});
     const MyDocument *empty = &document();
-    controller.openFiles({putDocument("a.crvgrab")});
+    openFiles({putDocument("a.crvgrab")});
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_EQ(&document(), empty);
     EXPECT_EQ(document().displayName(), "a.crvgrab");
     EXPECT_EQ(document().drawerOpenButtonState(), 1);
     EXPECT_FALSE(document().isDocumentEdited());
-    controller.openFiles({putPicture("c.png")});
+    openFiles({putPicture("c.png")});
     EXPECT_EQ(controller.documents().size(), 2U);
 }
 
@@ -216,15 +249,15 @@ TEST_F(DocumentControllerTest, anOpenFileIsNotOpenedTwice)
 {
     const QString file = putDocument("a.crvgrab");
     ASSERT_TRUE(QFile::link(file, path("link.crvgrab")));
-    controller.start({file, file, path("link.crvgrab")});
+    start({file, file, path("link.crvgrab")});
     EXPECT_EQ(controller.documents().size(), 1U);
 }
 
 TEST_F(DocumentControllerTest, whatIsNoDocumentAndNoPictureIsRefused)
 {
-    controller.start({QDir(putPicture("plot.png")).path()});
+    start({QDir(putPicture("plot.png")).path()});
     ASSERT_TRUE(QFile::copy(path("plot.png"), path("plot.dat")));
-    controller.openFiles({path("plot.dat")});
+    openFiles({path("plot.dat")});
     EXPECT_EQ(controller.documents().size(), 1U);
     QMessageBox *box = sheetOf(document());
     ASSERT_NE(box, nullptr);
@@ -234,7 +267,7 @@ TEST_F(DocumentControllerTest, whatIsNoDocumentAndNoPictureIsRefused)
 TEST_F(DocumentControllerTest, aMissingFileIsToldInAnEmptyWindowAndForgotten)
 {
     controller.recentFiles().add(path("gone.crvgrab"));
-    controller.start({path("gone.crvgrab")});
+    start({path("gone.crvgrab")});
     ASSERT_EQ(controller.documents().size(), 1U);
     QMessageBox *box = sheetOf(document());
     ASSERT_NE(box, nullptr);
@@ -245,7 +278,7 @@ TEST_F(DocumentControllerTest, aMissingFileIsToldInAnEmptyWindowAndForgotten)
 TEST_F(DocumentControllerTest, aDamagedDocumentOffersWhatIsLeft)
 {
     const QByteArray whole = documentarchive::archivedData(sampleroots::root(Kind::Polar, 200));
-    controller.start({put("cut.crvgrab", whole.left(whole.size() - 1500))});
+    start({put("cut.crvgrab", whole.left(whole.size() - 1500))});
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_FALSE(document().hasImage());
     press(sheetOf(document()), "document.open.remains");
@@ -257,7 +290,7 @@ TEST_F(DocumentControllerTest, aDamagedDocumentOffersWhatIsLeft)
 
 TEST_F(DocumentControllerTest, aDocumentWithNothingLeftIsOnlyTold)
 {
-    controller.start({put("text.crvgrab", "hello")});
+    start({put("text.crvgrab", "hello")});
     QMessageBox *box = sheetOf(document());
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->informativeText(), qtTrId("document.damage.noDocument"));
@@ -268,7 +301,7 @@ TEST_F(DocumentControllerTest, aDocumentWithNothingLeftIsOnlyTold)
 TEST_F(DocumentControllerTest, recentFilesAreOfferedAndCanBeForgotten)
 {
     const QString file = putDocument("a&b.crvgrab");
-    controller.start({file});
+    start({file});
     controller.newDocument();
     auto *menu = document(1).window().findChild<QMenu *>(QStringLiteral("recentFilesMenu"));
     ASSERT_NE(menu, nullptr);
@@ -292,7 +325,7 @@ TEST_F(DocumentControllerTest, recentFilesAreKeptApartFromThePreferencesAndBound
 
 TEST_F(DocumentControllerTest, aDroppedDocumentIsOpened)
 {
-    controller.start({});
+    start({});
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(putDocument("a.crvgrab"))});
     QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -301,11 +334,13 @@ TEST_F(DocumentControllerTest, aDroppedDocumentIsOpened)
     QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&document().window(), &drop);
     EXPECT_TRUE(QTest::qWaitFor([this] { return document().displayName() == "a.crvgrab"; }));
+    waitUntilRead();
+    EXPECT_EQ(document().dataSeries().maxRows(), 5);
 }
 
 TEST_F(DocumentControllerTest, otherDropsAreNotTheWindows)
 {
-    controller.start({});
+    start({});
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path("a.txt"))});
     QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -316,8 +351,7 @@ TEST_F(DocumentControllerTest, otherDropsAreNotTheWindows)
 
 TEST_F(DocumentControllerTest, quittingAsksDocumentByDocument)
 {
-    controller.start(
-        {putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
+    start({putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
     document(0).updateChangeCount(ChangeKind::Done);
     document(2).updateChangeCount(ChangeKind::Done);
     controller.terminate();
@@ -330,7 +364,7 @@ TEST_F(DocumentControllerTest, quittingAsksDocumentByDocument)
 
 TEST_F(DocumentControllerTest, aCancelledQuestionEndsTheQuitting)
 {
-    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
     document(0).updateChangeCount(ChangeKind::Done);
     controller.terminate();
     press(sheetOf(document(0)), "Cancel");
@@ -342,8 +376,7 @@ TEST_F(DocumentControllerTest, aCancelledQuestionEndsTheQuitting)
 
 TEST_F(DocumentControllerTest, aCancelledQuestionInTheMiddleKeepsTheRest)
 {
-    controller.start(
-        {putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
+    start({putDocument("a.crvgrab"), putDocument("b.crvgrab"), putDocument("c.crvgrab")});
     document(0).updateChangeCount(ChangeKind::Done);
     document(1).updateChangeCount(ChangeKind::Done);
     controller.terminate();
@@ -358,7 +391,7 @@ TEST_F(DocumentControllerTest, aCancelledQuestionInTheMiddleKeepsTheRest)
 
 TEST_F(DocumentControllerTest, quittingGoesOnFromAQuestionThatIsOpenAlready)
 {
-    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
     document(0).updateChangeCount(ChangeKind::Done);
     EXPECT_FALSE(document(0).window().close());
     QMessageBox *question = sheetOf(document(0));
@@ -370,8 +403,9 @@ TEST_F(DocumentControllerTest, quittingGoesOnFromAQuestionThatIsOpenAlready)
 TEST_F(DocumentControllerTest, whatACrashLeftIsBroughtBack)
 {
     leaveUnsaved("chart.crvgrab");
-    controller.start({});
+    start({});
     press(sheetOf(document()), "document.recovery.bringBack");
+    waitUntilRead();
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_TRUE(document().isDocumentEdited());
     EXPECT_TRUE(document().hasImage());
@@ -384,7 +418,7 @@ TEST_F(DocumentControllerTest, whatACrashLeftIsBroughtBack)
 TEST_F(DocumentControllerTest, whatACrashLeftCanBeDiscarded)
 {
     leaveUnsaved("chart.crvgrab");
-    controller.start({});
+    start({});
     press(sheetOf(document()), "document.recovery.discard");
     EXPECT_TRUE(document().isUntouched());
     EXPECT_EQ(keptDocuments(), 0);
@@ -393,7 +427,7 @@ TEST_F(DocumentControllerTest, whatACrashLeftCanBeDiscarded)
 TEST_F(DocumentControllerTest, whatACrashLeftCanWait)
 {
     leaveUnsaved("chart.crvgrab");
-    controller.start({});
+    start({});
     press(sheetOf(document()), "document.recovery.later");
     EXPECT_TRUE(document().isUntouched());
     EXPECT_EQ(keptDocuments(), 1);
@@ -403,8 +437,9 @@ TEST_F(DocumentControllerTest, aDocumentThatWasOpenedAgainShowsItsUnsavedChanges
 {
     const QString path = putDocument("chart.crvgrab");
     leaveUnsaved("chart.crvgrab");
-    controller.start({path});
+    start({path});
     press(sheetOf(document()), "document.recovery.bringBack");
+    waitUntilRead();
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_TRUE(document().isDocumentEdited());
     EXPECT_EQ(document().fileUrl().toLocalFile(), path);
@@ -414,10 +449,11 @@ TEST_F(DocumentControllerTest, newerWorkOnTheSameFileIsNotReplaced)
 {
     const QString path = putDocument("chart.crvgrab");
     leaveUnsaved("chart.crvgrab");
-    controller.start({path});
+    start({path});
     QMessageBox *question = sheetOf(document());
     document().updateChangeCount(ChangeKind::Done);
     press(question, "document.recovery.bringBack");
+    waitUntilRead();
     ASSERT_EQ(controller.documents().size(), 2U);
     EXPECT_EQ(document(0).fileUrl().toLocalFile(), path);
     EXPECT_TRUE(document(1).fileUrl().isEmpty());
@@ -428,8 +464,9 @@ TEST_F(DocumentControllerTest, aRecoveredDocumentNoticesThatItsFileChanged)
 {
     leaveUnsaved("chart.crvgrab");
     putDocument("chart.crvgrab");
-    controller.start({});
+    start({});
     press(sheetOf(document()), "document.recovery.bringBack");
+    waitUntilRead();
     document().saveDocument();
     QMessageBox *question = sheetOf(document());
     ASSERT_NE(question, nullptr);
@@ -438,7 +475,122 @@ TEST_F(DocumentControllerTest, aRecoveredDocumentNoticesThatItsFileChanged)
 
 TEST_F(DocumentControllerTest, aStartAfterAnEndInOrderAsksNothing)
 {
-    controller.start({});
+    start({});
     QCoreApplication::processEvents();
     EXPECT_TRUE(document().window().findChildren<QMessageBox *>().isEmpty());
+}
+
+TEST_F(DocumentControllerTest, aFileIsReadWhileTheWindowsGoOn)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    ASSERT_EQ(controller.documents().size(), 2U);
+    EXPECT_TRUE(document(0).isReading());
+    EXPECT_TRUE(document(1).isReading());
+    EXPECT_FALSE(document(0).window().isVisible());
+    waitUntilRead();
+    for (const std::size_t i : {0U, 1U}) {
+        EXPECT_TRUE(document(i).window().isVisible());
+        EXPECT_TRUE(document(i).window().centralWidget()->isEnabled());
+        EXPECT_EQ(document(i).dataSeries().maxRows(), 5);
+    }
+}
+
+TEST_F(DocumentControllerTest, aFileThatIsBeingReadIsNotOpenedTwice)
+{
+    const QString file = putDocument("a.crvgrab");
+    controller.start({file});
+    controller.openFiles({file});
+    EXPECT_EQ(controller.documents().size(), 1U);
+    waitUntilRead();
+}
+
+TEST_F(DocumentControllerTest, aCancelledOpeningLeavesNoWindow)
+{
+    start({putDocument("a.crvgrab")});
+    controller.openFiles({putDocument("b.crvgrab")});
+    ASSERT_EQ(controller.documents().size(), 2U);
+    cancelReading(document(1));
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_EQ(document().displayName(), "a.crvgrab");
+    EXPECT_EQ(controller.recentFiles().paths(), QStringList{path("a.crvgrab")});
+}
+
+TEST_F(DocumentControllerTest, aCancelledOpeningAtTheStartLeavesAnEmptyWindow)
+{
+    controller.start({putDocument("a.crvgrab")});
+    cancelReading(document());
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(document().window().isVisible());
+    EXPECT_TRUE(document().isUntouched());
+    EXPECT_EQ(document().drawerOpenButtonState(), 0);
+}
+
+TEST_F(DocumentControllerTest, aCancelledOpeningGivesAnEmptyWindowBack)
+{
+    controller.start({});
+    controller.openFiles({putDocument("a.crvgrab")});
+    EXPECT_FALSE(document().isUntouched());
+    EXPECT_FALSE(document().window().centralWidget()->isEnabled());
+    cancelReading(document());
+    EXPECT_TRUE(document().isUntouched());
+    EXPECT_TRUE(document().window().centralWidget()->isEnabled());
+    openFiles({path("a.crvgrab")});
+    EXPECT_EQ(document().dataSeries().maxRows(), 5);
+}
+
+TEST_F(DocumentControllerTest, aWindowMayCloseWhileItsFileIsRead)
+{
+    controller.start({});
+    controller.openFiles({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    ASSERT_EQ(controller.documents().size(), 2U);
+    EXPECT_TRUE(document(0).window().close());
+    // The program does not end under the other file, whose window has not been shown yet.
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(document().window().isVisible());
+    waitUntilRead();
+    EXPECT_EQ(document().displayName(), "b.crvgrab");
+    EXPECT_EQ(document().dataSeries().maxRows(), 5);
+}
+
+TEST_F(DocumentControllerTest, quittingDoesNotWaitForAFile)
+{
+    controller.start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    controller.terminate();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.documents().empty(); }));
+}
+
+TEST_F(DocumentControllerTest, whatACrashLeftIsOfferedAfterTheFilesAreRead)
+{
+    leaveUnsaved("chart.crvgrab");
+    controller.start({putDocument("a.crvgrab"), path("gone.crvgrab")});
+    EXPECT_TRUE(document().window().findChildren<QMessageBox *>().isEmpty());
+    waitUntilRead();
+    ASSERT_EQ(controller.documents().size(), 1U);
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.missing"));
+    press(box, "OK");
+    press(sheetOf(document()), "document.recovery.later");
+}
+
+TEST_F(DocumentControllerTest, aFolderNamedLikeADocumentIsRefused)
+{
+    ASSERT_TRUE(QDir().mkpath(path("folder.crvgrab")));
+    start({path("folder.crvgrab")});
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.noFile"));
+}
+
+TEST_F(DocumentControllerTest, aFileLargerThanTheMemoryIsRefused)
+{
+    QFile file(path("huge.crvgrab"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(qint64{1} << 40)); // takes no room on the disk
+    start({file.fileName()});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    QMessageBox *box = sheetOf(document());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.tooLarge"));
+    EXPECT_TRUE(document().isUntouched());
 }

@@ -63,6 +63,11 @@ protected:
                    : static_cast<int>(std::get<ArchiveArray>(lists->at(0).value).size());
     }
 
+    void waitUntilRead() const
+    {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !document().isReading(); }, 30'000));
+    }
+
     TestDocument test;
 
 private:
@@ -168,6 +173,7 @@ TEST_F(DocumentSavingTest, revertingShowsTheFileAgain)
     EXPECT_EQ(document().dataSeries().maxRows(), 3);
     test.command("revertDocumentToSaved");
     sheets().answerFirst(SheetAnswer::Default);
+    waitUntilRead();
     EXPECT_EQ(document().dataSeries().maxRows(), 2);
     EXPECT_FALSE(document().isDocumentEdited());
     EXPECT_FALSE(test.action("undo")->isEnabled());
@@ -207,9 +213,42 @@ TEST_F(DocumentSavingTest, revertingToADamagedFileChangesNothing)
     putContent(path(), "damaged");
     test.command("revertDocumentToSaved");
     sheets().answerFirst();
+    waitUntilRead();
     EXPECT_EQ(sheets().waitingCount(), 1U);
     EXPECT_EQ(document().dataSeries().maxRows(), 3);
     EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(DocumentSavingTest, aCancelledRevertingChangesNothing)
+{
+    saveAs(path());
+    test.click(300, 250);
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    ASSERT_TRUE(document().isReading());
+    // What is clicked meanwhile is not taken.
+    test.click(250, 200);
+    auto *panel = document().window().findChild<QWidget *>(QStringLiteral("readingProgress"),
+                                                           Qt::FindDirectChildrenOnly);
+    ASSERT_NE(panel, nullptr);
+    QTest::keyClick(panel, Qt::Key_Escape);
+    EXPECT_FALSE(document().isReading());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(document().dataSeries().maxRows(), 3);
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(document().window().centralWidget()->isEnabled());
+    EXPECT_TRUE(sheets().waitingCount() == 0);
+}
+
+TEST_F(DocumentSavingTest, closingWhileRevertingAsksAboutTheChangesThatAreStillThere)
+{
+    saveAs(path());
+    test.click(300, 250);
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(document().dataSeries().maxRows(), 3);
 }
 
 TEST_F(DocumentSavingTest, closingAModifiedDocumentAsks)

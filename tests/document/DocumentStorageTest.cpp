@@ -367,10 +367,10 @@ TEST(DocumentStorage, whatIsReadFromDamagedBytesIsShownAndSavedForGood)
         document.showWindow();
         const QByteArray saved = *document.dataOfType(documentType);
         ASSERT_TRUE(document.loadDataRepresentation(saved, documentType)) << i;
-        document.revertToLoaded();
+        document.revertToLoaded({});
         const QByteArray savedAgain = *document.dataOfType(documentType);
         ASSERT_TRUE(document.loadDataRepresentation(savedAgain, documentType)) << i;
-        document.revertToLoaded();
+        document.revertToLoaded({});
         EXPECT_EQ(*document.dataOfType(documentType), savedAgain) << i;
     }
     EXPECT_GT(shown, 10);

@@ -34,6 +34,10 @@
         <source>The picture is damaged and cannot be shown.</source>
         <translation>Das Bild ist beschädigt und kann nicht gezeigt werden.</translation>
     </message>
+    <message id="document.damage.pictureTooLarge">
+        <source>The picture needs more memory than is free. Close other programs, then open the document again.</source>
+        <translation>Das Bild braucht mehr Speicher, als frei ist. Schließen Sie andere Programme und öffnen Sie das Dokument dann noch einmal.</translation>
+    </message>
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
@@ -146,6 +150,14 @@ Ihre Arbeit ist hier noch geöffnet. Was vorher in der Datei war, ist unverände
     <message id="document.open.missing">
         <source>There is no such file any more. It may have been moved or renamed.</source>
         <translation>Diese Datei gibt es nicht mehr. Sie wurde vielleicht verschoben oder umbenannt.</translation>
+    </message>
+    <message id="document.open.tooLarge">
+        <source>The file needs more memory than is free. Close other programs, then try again.</source>
+        <translation>Die Datei braucht mehr Speicher, als frei ist. Schließen Sie andere Programme und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message id="document.open.noFile">
+        <source>This is a folder or a device, not a file.</source>
+        <translation>Das ist ein Ordner oder ein Gerät, keine Datei.</translation>
     </message>
     <message id="document.open.unknownType">
         <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>

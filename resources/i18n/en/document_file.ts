@@ -34,6 +34,10 @@
         <source>The picture is damaged and cannot be shown.</source>
         <translation>The picture is damaged and cannot be shown.</translation>
     </message>
+    <message id="document.damage.pictureTooLarge">
+        <source>The picture needs more memory than is free. Close other programs, then open the document again.</source>
+        <translation>The picture needs more memory than is free. Close other programs, then open the document again.</translation>
+    </message>
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
@@ -146,6 +150,14 @@ Your work is still open here. What was in the file before is unchanged.</transla
     <message id="document.open.missing">
         <source>There is no such file any more. It may have been moved or renamed.</source>
         <translation>There is no such file any more. It may have been moved or renamed.</translation>
+    </message>
+    <message id="document.open.tooLarge">
+        <source>The file needs more memory than is free. Close other programs, then try again.</source>
+        <translation>The file needs more memory than is free. Close other programs, then try again.</translation>
+    </message>
+    <message id="document.open.noFile">
+        <source>This is a folder or a device, not a file.</source>
+        <translation>This is a folder or a device, not a file.</translation>
     </message>
     <message id="document.open.unknownType">
         <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>

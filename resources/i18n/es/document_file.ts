@@ -34,6 +34,10 @@
         <source>The picture is damaged and cannot be shown.</source>
         <translation>La imagen está dañada y no se puede mostrar.</translation>
     </message>
+    <message id="document.damage.pictureTooLarge">
+        <source>The picture needs more memory than is free. Close other programs, then open the document again.</source>
+        <translation>La imagen necesita más memoria de la que hay libre. Cierre otros programas y abra de nuevo el documento.</translation>
+    </message>
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
@@ -146,6 +150,14 @@ Su trabajo sigue abierto aquí. Lo que había antes en el archivo no ha cambiado
     <message id="document.open.missing">
         <source>There is no such file any more. It may have been moved or renamed.</source>
         <translation>Ese archivo ya no existe. Puede que se haya movido o renombrado.</translation>
+    </message>
+    <message id="document.open.tooLarge">
+        <source>The file needs more memory than is free. Close other programs, then try again.</source>
+        <translation>El archivo necesita más memoria de la que hay libre. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message id="document.open.noFile">
+        <source>This is a folder or a device, not a file.</source>
+        <translation>Esto es una carpeta o un dispositivo, no un archivo.</translation>
     </message>
     <message id="document.open.unknownType">
         <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>

@@ -34,6 +34,10 @@
         <source>The picture is damaged and cannot be shown.</source>
         <translation>L’image est endommagée et ne peut pas être affichée.</translation>
     </message>
+    <message id="document.damage.pictureTooLarge">
+        <source>The picture needs more memory than is free. Close other programs, then open the document again.</source>
+        <translation>L’image demande plus de mémoire qu’il n’en reste. Fermez d’autres programmes, puis ouvrez de nouveau le document.</translation>
+    </message>
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
@@ -146,6 +150,14 @@ Votre travail est toujours ouvert ici. Ce que le fichier contenait avant est inc
     <message id="document.open.missing">
         <source>There is no such file any more. It may have been moved or renamed.</source>
         <translation>Ce fichier n’existe plus. Il a peut-être été déplacé ou renommé.</translation>
+    </message>
+    <message id="document.open.tooLarge">
+        <source>The file needs more memory than is free. Close other programs, then try again.</source>
+        <translation>Le fichier demande plus de mémoire qu’il n’en reste. Fermez d’autres programmes, puis réessayez.</translation>
+    </message>
+    <message id="document.open.noFile">
+        <source>This is a folder or a device, not a file.</source>
+        <translation>C’est un dossier ou un périphérique, pas un fichier.</translation>
     </message>
     <message id="document.open.unknownType">
         <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>

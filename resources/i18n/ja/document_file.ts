@@ -34,6 +34,10 @@
         <source>The picture is damaged and cannot be shown.</source>
         <translation>画像が壊れていて表示できません。</translation>
     </message>
+    <message id="document.damage.pictureTooLarge">
+        <source>The picture needs more memory than is free. Close other programs, then open the document again.</source>
+        <translation>画像には空きより多くのメモリーが必要です。ほかのプログラムを終了してから、もう一度ドキュメントを開いてください。</translation>
+    </message>
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
@@ -146,6 +150,14 @@ Your work is still open here. What was in the file before is unchanged.</source>
     <message id="document.open.missing">
         <source>There is no such file any more. It may have been moved or renamed.</source>
         <translation>ファイルが見つかりません。移動されたか、名前が変わった可能性があります。</translation>
+    </message>
+    <message id="document.open.tooLarge">
+        <source>The file needs more memory than is free. Close other programs, then try again.</source>
+        <translation>ファイルには空きより多くのメモリーが必要です。ほかのプログラムを終了してから、もう一度試してください。</translation>
+    </message>
+    <message id="document.open.noFile">
+        <source>This is a folder or a device, not a file.</source>
+        <translation>これはファイルではなく、フォルダーまたはデバイスです。</translation>
     </message>
     <message id="document.open.unknownType">
         <source>Curvegrab X opens its own documents (.crvgrab) and pictures such as PNG, JPEG or TIFF. If this is a picture, give its name the right ending.</source>
