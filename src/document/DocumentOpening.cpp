@@ -286,8 +286,8 @@ void DocumentController::wasBroughtBack(MyDocument &document, const QString &key
              QString(),
              {}},
             {});
-    else if (document.keepSafeNow())
-        RecoveryStore::remove(key);
+    else
+        document.keepSafeNow(key);
     openingEnded();
 }
 

@@ -7,7 +7,6 @@
 #include "imageview/GraphImageView.h"
 #include "platform/Texts.h"
 
-#include <QFileInfo>
 #include <QStatusBar>
 
 #include <chrono>
@@ -32,7 +31,12 @@ DocumentRecovery::DocumentRecovery(MyDocument &document, RecoveryStore &store,
     : m_document(document)
     , m_store(store)
     , m_statusBar(statusBar)
+    , m_writer(store)
 {
+    connect(&m_writer, &RecoveryWriter::wrote, this, [this](const std::optional<QString> &reason) {
+        if (reason)
+            tellOnce(*reason);
+    });
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &DocumentRecovery::keep);
 }
@@ -49,65 +53,45 @@ void DocumentRecovery::documentChanged()
 void DocumentRecovery::forget()
 {
     m_timer.stop();
-    if (m_key.isEmpty())
-        return;
-    RecoveryStore::remove(std::exchange(m_key, {}));
-    m_pictureName.clear();
-    m_picture.reset();
+    for (QString *key : {&m_key, &m_replaces}) {
+        if (!key->isEmpty())
+            m_writer.remove(std::exchange(*key, {}));
+    }
 }
 
+void DocumentRecovery::keepNow(const QString &insteadOf)
+{
+    m_replaces = insteadOf;
+    keep();
+}
+
+// Encoding a large picture may take longer than the changes can wait: they are kept without it, and
+// with it as soon as it is encoded.
 void DocumentRecovery::keep()
 {
-    m_document.graphView().encodePicture([this] { keepNow(); });
-}
-
-bool DocumentRecovery::keepNow()
-{
-    if (!m_document.isDocumentEdited())
-        return true;
     m_timer.stop();
+    if (!m_document.isDocumentEdited())
+        return;
     if (m_key.isEmpty())
         m_key = m_store.newKey();
     if (m_key.isEmpty()) {
         tellOnce(texts::localized("document.recovery.noFolder"));
-        return false;
+        return;
     }
-    const ArchiveDictionary root = m_document.rootDictionary();
-    const QString earlierPicture = m_pictureName;
-    if (!keepPicture(pictureOf(root)))
-        return false;
-    const std::optional<QString> reason =
-        RecoveryStore::keep(m_key,
-                            {root, m_document.fileUrl().toLocalFile(), m_document.displayName(),
-                             m_document.fileStamp()},
-                            m_pictureName);
-    if (reason) {
-        tellOnce(*reason);
-        return false;
-    }
-    if (!earlierPicture.isEmpty() && earlierPicture != m_pictureName)
-        RecoveryStore::removePicture(m_key, earlierPicture);
-    return true;
-}
-
-// A new picture takes a new name: the document that is kept up to now goes on referring to its own.
-bool DocumentRecovery::keepPicture(const std::shared_ptr<const ArchivedPicture> &picture)
-{
-    if (picture == m_picture)
-        return true;
-    QString name;
-    if (picture != nullptr) {
-        name = QStringLiteral("%1-%2.picture")
-                   .arg(QFileInfo(m_key).completeBaseName())
-                   .arg(++m_lastPicture);
-        if (const auto reason = RecoveryStore::keepPicture(m_key, *picture, name)) {
-            tellOnce(*reason);
-            return false;
-        }
-    }
-    m_pictureName = name;
-    m_picture = picture;
-    return true;
+    const bool isComplete = m_document.graphView().pictureIsEncoded();
+    const ArchiveDictionary root =
+        isComplete ? m_document.rootDictionary() : m_document.rootDictionaryAsFarAsEncoded();
+    m_writer.keep({m_key,
+                   {root, m_document.fileUrl().toLocalFile(), m_document.displayName(),
+                    m_document.fileStamp()},
+                   pictureOf(root),
+                   isComplete ? m_replaces : QString()});
+    if (isComplete || std::exchange(m_awaitsEncoding, true))
+        return;
+    m_document.graphView().encodePicture([this] {
+        m_awaitsEncoding = false;
+        keep();
+    });
 }
 
 void DocumentRecovery::tellOnce(const QString &reason)

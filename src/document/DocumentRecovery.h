@@ -1,12 +1,11 @@
 #pragma once
 
+#include "document/RecoveryWriter.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
 
-#include <memory>
-
-class ArchivedPicture;
 class MyDocument;
 class QStatusBar;
 class RecoveryStore;
@@ -24,21 +23,21 @@ public:
     void documentChanged();
     /// The document closes, and what was not saved is not wanted.
     void forget();
-    /// Keeps the document now if it is modified; false if the disk refused.
-    bool keepNow();
+    /// Keeps the document from now on, if it is modified. What is kept under the key `insteadOf`,
+    /// if any, is removed once it is.
+    void keepNow(const QString &insteadOf = {});
 
 private:
     void keep();
-    [[nodiscard]] bool keepPicture(const std::shared_ptr<const ArchivedPicture> &picture);
     void tellOnce(const QString &reason);
 
     MyDocument &m_document;
     RecoveryStore &m_store;
     QStatusBar &m_statusBar;
+    RecoveryWriter m_writer;
     QTimer m_timer;
-    QString m_key;         ///< empty: nothing is kept
-    QString m_pictureName; ///< the file of m_picture; empty: there is none
-    std::shared_ptr<const ArchivedPicture> m_picture;
-    int m_lastPicture = 0;
+    QString m_key;      ///< empty: nothing is kept
+    QString m_replaces; ///< another key, which this document takes the place of; or empty
+    bool m_awaitsEncoding = false;
     bool m_wasTold = false;
 };

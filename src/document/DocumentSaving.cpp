@@ -1,9 +1,11 @@
 #include "document/DocumentSaving.h"
 
 #include "document/DocumentFile.h"
+#include "document/DocumentKeys.h"
 #include "document/DocumentServices.h"
 #include "document/DocumentTypes.h"
 #include "document/MyDocument.h"
+#include "imageview/ArchivedPicture.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureMemory.h"
 #include "platform/DurableFile.h"
@@ -19,12 +21,31 @@ namespace {
 
 constexpr std::chrono::milliseconds timeBeforeProgress{500};
 
+/// Smaller files are written within a few frames.
+constexpr std::size_t largeFile = 4'000'000;
+
+/// The bytes of the encoded picture; zero without one.
+std::size_t pictureSizeIn(const ArchiveDictionary &root)
+{
+    const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
+    const auto picture =
+        std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image"));
+    return picture == nullptr ? 0 : picture->bytes()->size();
+}
+
 QString withName(const char *key, const QString &path)
 {
     return texts::localized(key).arg(QFileInfo(path).fileName());
 }
 
 } // namespace
+
+DocumentSaving::Outcome DocumentSaving::write(const QString &path, const ArchiveDictionary &root)
+{
+    const std::optional<QString> refused =
+        durablefile::write(path, documentarchive::archivedData(root));
+    return {refused, durablefile::stampOf(path)};
+}
 
 DocumentSaving::DocumentSaving(MyDocument &document, const WindowDialogs &dialogs,
                                QStatusBar &statusBar)
@@ -90,22 +111,36 @@ void DocumentSaving::writeTo(const QString &path, const Saved &saved)
     m_document.graphView().encodePicture([this, path, saved] { encodedFor(path, saved); });
 }
 
-// What is written is the document of this moment, whatever was done while the picture was encoded.
+// What is written is the document of this moment, whatever was done while the picture was encoded
+// and whatever is done while the file is written.
 void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
 {
-    const std::optional<QByteArray> data =
-        m_document.dataOfType(QLatin1String(documenttypes::curvegrabDocument));
-    const std::optional<QString> reason =
-        data ? durablefile::write(path, *data) : texts::localized("document.save.noMemory");
+    const ArchiveDictionary root = m_document.rootDictionary();
+    if (m_document.hasImage() && pictureSizeIn(root) == 0) {
+        written(path, saved, {texts::localized("document.save.noMemory"), {}});
+        return;
+    }
+    m_document.isBeingSaved();
+    if (pictureSizeIn(root) < largeFile) {
+        written(path, saved, write(path, root));
+        return;
+    }
+    m_writing.begin([this, path, saved, root](const std::stop_token &) -> BackgroundWork::Handler {
+        return [this, path, saved, outcome = write(path, root)] { written(path, saved, outcome); };
+    });
+}
+
+void DocumentSaving::written(const QString &path, const Saved &saved, const Outcome &outcome)
+{
     m_isBusy = false;
     m_progressTimer.stop();
     m_statusBar.clearMessage();
     const Saved next = std::exchange(m_next, {});
-    if (reason) {
-        refused(path, *reason);
+    if (outcome.refused) {
+        refused(path, *outcome.refused);
         return;
     }
-    m_document.wasSavedTo(path);
+    m_document.wasSavedTo(path, outcome.stamp);
     for (const Saved &step : {saved, next}) {
         if (step)
             step();
@@ -136,10 +171,19 @@ void DocumentSaving::askToSave(Saved agreed)
             m_isAsking = false;
             const Saved agreedTo = std::exchange(m_agreed, {});
             if (answer == SheetAnswer::Default)
-                save(agreedTo);
+                save([this, agreedTo] { agreedUnlessEdited(agreedTo); });
             else if (answer == SheetAnswer::Other)
                 agreedTo();
         });
+}
+
+// Something may have been done while the file was written.
+void DocumentSaving::agreedUnlessEdited(const Saved &agreed)
+{
+    if (m_document.isDocumentEdited())
+        askToSave(agreed);
+    else
+        agreed();
 }
 
 void DocumentSaving::revert()

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "document/DocumentFile.h"
+#include "platform/BackgroundWork.h"
+#include "platform/DurableFile.h"
 
 #include <QObject>
 #include <QString>
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 class MyDocument;
@@ -33,22 +36,32 @@ public:
     /// Asks, and then shows what the file has.
     void revert();
 
-    /// A picture is still being encoded for a save.
+    /// The picture is still being encoded for a save, or the file written.
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
     /// What comes after the save that is under way, too; nothing does if the disk refuses it.
     void whenSaved(Saved next) { m_next = std::move(next); }
 
 private:
+    struct Outcome
+    {
+        std::optional<QString> refused; ///< why; nothing if the file is written
+        std::optional<durablefile::Stamp> stamp;
+    };
+
+    [[nodiscard]] static Outcome write(const QString &path, const ArchiveDictionary &root);
     void writeTo(const QString &path, const Saved &saved);
     void encodedFor(const QString &path, const Saved &saved);
+    void written(const QString &path, const Saved &saved, const Outcome &outcome);
     void refused(const QString &path, const QString &reason);
     void askToOverwrite(const char *textKey, const QString &path, const Saved &saved);
+    void agreedUnlessEdited(const Saved &agreed);
     void reread();
     void wasReread(const QString &path, const documentfile::Document &read);
 
     MyDocument &m_document;
     const WindowDialogs &m_dialogs;
     QStatusBar &m_statusBar;
+    BackgroundWork m_writing;
     QTimer m_progressTimer;
     Saved m_next;
     Saved m_agreed;

@@ -144,6 +144,7 @@ void MyDocument::updateChangeCount(ChangeKind kind)
     case ChangeKind::Done:
         // What was undone since the save can no longer be redone.
         m_savedStateIsGone = m_savedStateIsGone || m_changeCount < 0;
+        m_stateBeingSavedIsGone = m_stateBeingSavedIsGone || m_changeCount < m_countBeingSaved;
         ++m_changeCount;
         break;
     case ChangeKind::Redone:
@@ -157,11 +158,16 @@ void MyDocument::updateChangeCount(ChangeKind kind)
         m_savedStateIsGone = false;
         break;
     }
+    changeCountMoved();
+    if (kind != ChangeKind::Cleared)
+        Q_EMIT edited();
+}
+
+void MyDocument::changeCountMoved()
+{
     m_window->setWindowModified(isDocumentEdited());
     if (m_recovery != nullptr)
         m_recovery->documentChanged();
-    if (kind != ChangeKind::Cleared)
-        Q_EMIT edited();
 }
 
 QString MyDocument::displayName() const

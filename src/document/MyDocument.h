@@ -86,11 +86,14 @@ public:
     }
     /// The root dictionary as a file has it now.
     [[nodiscard]] ArchiveDictionary rootDictionary() const;
+    /// The same, without a picture that is not encoded yet.
+    [[nodiscard]] ArchiveDictionary rootDictionaryAsFarAsEncoded() const;
 
     /// Takes what was kept safe from a crash; it is modified.
     void loadRecovered(RecoveryStore::Document recovered);
-    /// Keeps unsaved changes safe from a crash without waiting; false if the disk refused.
-    bool keepSafeNow();
+    /// Begins to keep unsaved changes safe from a crash, in place of what is kept under the key
+    /// `insteadOf`, if any.
+    void keepSafeNow(const QString &insteadOf = {});
 
     /// Reads in the background what the document is to show; `work` and `cancelled` are as
     /// BackgroundReading::begin() has them. Until then the window takes nothing but the
@@ -101,8 +104,11 @@ public:
 
     /// Whether nothing was ever done in this window, so that a file may be opened in it.
     [[nodiscard]] bool isUntouched() const;
-    /// The document was written to the file at `path`.
-    void wasSavedTo(const QString &path);
+    /// What is written to a file now is the document as it is.
+    void isBeingSaved();
+    /// The document as it was at isBeingSaved() is now in the file at `path`, which is as `stamp`
+    /// says. What was done since then is not saved.
+    void wasSavedTo(const QString &path, const std::optional<durablefile::Stamp> &stamp);
     /// The document was read from the file at `path`, which was then as `stamp` says.
     void wasReadFrom(const QString &path, const std::optional<durablefile::Stamp> &stamp);
     /// Shows what was loaded from the file again, and forgets the rest.
@@ -245,6 +251,8 @@ protected:
 private:
     void makeComponents();
     void wire();
+    [[nodiscard]] ArchiveDictionary rootDictionaryWith(ArchiveDictionary viewData) const;
+    void changeCountMoved();
     void makeReading();
     void hasFile(const QString &path, const std::optional<durablefile::Stamp> &stamp);
     void restore(const ArchiveDictionary &root);
@@ -268,6 +276,8 @@ private:
     UndoManager m_undoManager;
     int m_changeCount = 0;
     bool m_savedStateIsGone = false; ///< no undo or redo leads to what the file has
+    int m_countBeingSaved = 0;
+    bool m_stateBeingSavedIsGone = false;
     bool m_isKey = false;
     bool m_closeAgreed = false;
     mutable std::optional<bool> m_pasteboardIsGood; ///< as far as it was looked at

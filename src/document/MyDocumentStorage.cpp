@@ -103,9 +103,19 @@ void MyDocument::loadRecovered(RecoveryStore::Document recovered)
     loadRemains(std::move(recovered.root));
 }
 
-bool MyDocument::keepSafeNow() { return m_recovery->keepNow(); }
+void MyDocument::keepSafeNow(const QString &insteadOf) { m_recovery->keepNow(insteadOf); }
 
 ArchiveDictionary MyDocument::rootDictionary() const
+{
+    return rootDictionaryWith(m_graphView->dataForSave());
+}
+
+ArchiveDictionary MyDocument::rootDictionaryAsFarAsEncoded() const
+{
+    return rootDictionaryWith(m_graphView->dataAsFarAsEncoded());
+}
+
+ArchiveDictionary MyDocument::rootDictionaryWith(ArchiveDictionary viewData) const
 {
     const TableDrawer &drawer = *m_window->ui().dataTableDrawer;
     const FloatSize drawerSize{static_cast<float>(drawer.contentWidth()),
@@ -117,7 +127,7 @@ ArchiveDictionary MyDocument::rootDictionary() const
     root.set(documentkeys::dataTableViewState, integerValue(m_drawerOpenButtonState));
     root.set(documentkeys::actionTabSelection,
              integerValue(m_window->ui().actionSelectionTab->indexOfSelectedTab()));
-    root.set(documentkeys::graphImageViewData, {m_graphView->dataForSave()});
+    root.set(documentkeys::graphImageViewData, {std::move(viewData)});
     root.set(documentkeys::dataTableViewData, {m_dataTableView->dataForSave()});
     root.set(documentkeys::currentAxesData, {m_currentAxes->dataForSave()});
     root.set(documentkeys::cursorGuideData, {m_cursorGuide->dataForSave()});
@@ -264,7 +274,25 @@ bool MyDocument::isUntouched() const
            m_dataSeries->validSeries().empty();
 }
 
-void MyDocument::wasSavedTo(const QString &path) { hasFile(path, durablefile::stampOf(path)); }
+void MyDocument::isBeingSaved()
+{
+    m_undoManager.closeGroup();
+    m_countBeingSaved = m_changeCount;
+    m_stateBeingSavedIsGone = false;
+}
+
+void MyDocument::wasSavedTo(const QString &path, const std::optional<durablefile::Stamp> &stamp)
+{
+    m_undoManager.closeGroup();
+    const int changesSince = m_changeCount - m_countBeingSaved;
+    const bool isGone = m_stateBeingSavedIsGone;
+    hasFile(path, stamp);
+    if (changesSince == 0 && !isGone)
+        return;
+    m_changeCount = changesSince;
+    m_savedStateIsGone = isGone;
+    changeCountMoved();
+}
 
 void MyDocument::wasReadFrom(const QString &path, const std::optional<durablefile::Stamp> &stamp)
 {

@@ -3,6 +3,7 @@
 #include "document/DocumentArchive.h"
 #include "document/DocumentFile.h"
 #include "document/DocumentKeys.h"
+#include "document/RecoveryThread.h"
 #include "imageview/ArchivedPicture.h"
 #include "imageview/PictureMemory.h"
 #include "platform/Texts.h"
@@ -103,6 +104,8 @@ RecoveryStore::RecoveryStore(const QString &folder)
 // A program that ends in order has saved or dropped everything.
 RecoveryStore::~RecoveryStore()
 {
+    for (const std::shared_ptr<RecoveryThread> &thread : m_threads)
+        thread->finish();
     if (m_session != nullptr)
         removeSession(*m_session);
     const auto isKept = [](const QString &key) { return QFileInfo::exists(key); };
@@ -214,6 +217,12 @@ std::optional<QString> RecoveryStore::keepPicture(const QString &key,
     return durablefile::write(picturePath(key, pictureName),
                               QByteArray::fromRawData(reinterpret_cast<const char *>(bytes.data()),
                                                       static_cast<qsizetype>(bytes.size())));
+}
+
+void RecoveryStore::waitAtTheEndFor(std::shared_ptr<RecoveryThread> thread)
+{
+    std::erase_if(m_threads, [](const auto &earlier) { return earlier->hasEnded(); });
+    m_threads.push_back(std::move(thread));
 }
 
 void RecoveryStore::removePicture(const QString &key, const QString &pictureName)

@@ -12,6 +12,7 @@
 
 class ArchivedPicture;
 class QLockFile;
+class RecoveryThread;
 
 /// The work that is not saved yet, kept on the disk while the program runs; and what a program left
 /// behind that ended without warning. Every running program has a folder of its own, locked as long
@@ -49,6 +50,8 @@ public:
     [[nodiscard]] static std::optional<QString>
     keepPicture(const QString &key, const ArchivedPicture &picture, const QString &pictureName);
     static void removePicture(const QString &key, const QString &pictureName);
+    /// The store does not go before the thread has done what it was asked for.
+    void waitAtTheEndFor(std::shared_ptr<RecoveryThread> thread);
     /// Forgets the document and its pictures.
     static void remove(const QString &key);
 
@@ -60,5 +63,6 @@ private:
     std::unique_ptr<QLockFile> m_session;
     std::vector<std::unique_ptr<QLockFile>> m_deadSessions;
     QStringList m_remains;
+    std::vector<std::shared_ptr<RecoveryThread>> m_threads;
     int m_lastKey = 0;
 };

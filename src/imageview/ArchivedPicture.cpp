@@ -77,6 +77,25 @@ bool chunksAreThere(const std::vector<std::byte> &bytes)
     return false;
 }
 
+/// Takes what an encoder writes until it is to leave off.
+class StoppableBuffer final : public QBuffer
+{
+public:
+    StoppableBuffer(QByteArray &bytes, std::stop_token stop)
+        : QBuffer(&bytes)
+        , m_stop(std::move(stop))
+    {}
+
+protected:
+    qint64 writeData(const char *data, qint64 length) override
+    {
+        return m_stop.stop_requested() ? -1 : QBuffer::writeData(data, length);
+    }
+
+private:
+    std::stop_token m_stop;
+};
+
 /// The bytes without a copy; `bytes` outlives them.
 QByteArray rawBytes(const std::vector<std::byte> &bytes)
 {
@@ -86,10 +105,11 @@ QByteArray rawBytes(const std::vector<std::byte> &bytes)
 
 } // namespace
 
-std::shared_ptr<const ArchivedPicture> ArchivedPicture::archived(const Picture &picture)
+std::shared_ptr<const ArchivedPicture> ArchivedPicture::archived(const Picture &picture,
+                                                                 const std::stop_token &stop)
 {
     QByteArray bytes;
-    QBuffer buffer(&bytes);
+    StoppableBuffer buffer(bytes, stop);
     QImageWriter writer(&buffer, "png");
     writer.setCompression(compression);
     writer.setText(sizeKey, sizeText(picture.size()));

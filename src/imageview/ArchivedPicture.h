@@ -19,8 +19,10 @@ class ArchivedPicture final : public Archivable
 public:
     static constexpr std::string_view archivedName = "NSImage";
 
-    /// Encodes `picture`; null if there is not enough memory for it.
-    [[nodiscard]] static std::shared_ptr<const ArchivedPicture> archived(const Picture &picture);
+    /// Encodes `picture`, in any thread; null if there is not enough memory for it, or soon after
+    /// `stop` was requested.
+    [[nodiscard]] static std::shared_ptr<const ArchivedPicture>
+    archived(const Picture &picture, const std::stop_token &stop = {});
 
     /// Reads what encodeWithCoder() wrote; null after a failure of the coder. The picture itself
     /// is not decoded yet.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/BackgroundWork.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -18,8 +20,7 @@ class BackgroundReading : public QObject
     Q_OBJECT
 
 public:
-    /// Called in this object's thread.
-    using Handler = std::function<void()>;
+    using Handler = BackgroundWork::Handler;
     /// What a reading thread does, with nothing but what it owns: it leaves off soon after `stop`
     /// is requested, and tells how far it has come. The handler that it returns takes what it has
     /// read.
@@ -27,9 +28,6 @@ public:
 
     /// The progress panel is shown over `progressHost`.
     explicit BackgroundReading(QWidget &progressHost);
-    /// Gives up the reading in progress; nobody is told.
-    ~BackgroundReading() override;
-
     /// Gives up the reading in progress and begins another one, which the user knows by `name`. In
     /// the end either what the work returns is called, or `cancelled`.
     void begin(const QString &name, Work work, Handler cancelled);
@@ -38,7 +36,7 @@ public:
     /// Gives up the reading in progress; nobody is told.
     void abandon();
 
-    [[nodiscard]] bool isReading() const { return m_job != nullptr; }
+    [[nodiscard]] bool isReading() const { return m_work.isWorking(); }
 
 Q_SIGNALS:
     /// The progress panel is about to be shown.
@@ -47,14 +45,13 @@ Q_SIGNALS:
     void ended();
 
 private:
-    struct Job;
-
-    [[nodiscard]] std::shared_ptr<Job> release();
-    void end(const Handler &handler);
+    void end();
     void showProgress();
 
-    std::shared_ptr<Job> m_job; ///< null: nothing is read
+    BackgroundWork m_work;
+    Handler m_cancelled;
     QString m_name;
+    std::shared_ptr<std::atomic<int>> m_percentRead;
     ReadingProgress *m_progress;
     QTimer m_progressTimer;
 };

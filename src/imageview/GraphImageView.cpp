@@ -157,6 +157,7 @@ bool GraphImageView::replaceImageWith(std::optional<Picture> image)
         abandonPress();
         m_originalImage = std::move(image);
         m_archivedImage.reset();
+        otherPictureCame();
         m_rotation = 0;
         const float screenWidth = m_outlets.document->desktop().mainScreenSize().width;
         float scale = (screenWidth - marginWidth - drawerWidth) / m_originalImage->size().width;
@@ -237,12 +238,17 @@ void GraphImageView::setButtonStates()
 
 ArchiveDictionary GraphImageView::dataForSave() const
 {
+    if (m_originalImage && m_archivedImage == nullptr)
+        m_archivedImage = ArchivedPicture::archived(*m_originalImage);
+    return dataAsFarAsEncoded();
+}
+
+ArchiveDictionary GraphImageView::dataAsFarAsEncoded() const
+{
     ArchiveDictionary saved;
     saved.set("Scrolled Position", {geometrytext::stringFromPoint(m_scrollArea.visibleOrigin())});
     saved.set("Image Scale", {m_imageScale});
     saved.set("Rotation Angle", {m_rotation});
-    if (m_originalImage && m_archivedImage == nullptr)
-        m_archivedImage = ArchivedPicture::archived(*m_originalImage);
     if (m_archivedImage != nullptr)
         saved.set("Original Image", {std::shared_ptr<const Archivable>(m_archivedImage)});
     return saved;
@@ -266,6 +272,7 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
         m_scaledImage.reset();
         m_scrollArea.setDocumentSize({});
     }
+    otherPictureCame();
     makeScaledImage();
     m_scrollArea.scrollPoint(
         geometrytext::pointFromString(stored->stringForKey("Scrolled Position")));
@@ -311,6 +318,8 @@ void GraphImageView::prefsChanged()
 void GraphImageView::windowWillClose()
 {
     giveUpOpening();
+    m_encoding.abandon();
+    m_waitingForEncoding.clear();
     m_originalImage.reset();
     m_scaledImage.reset();
     m_archivedImage.reset();

@@ -8,6 +8,7 @@
 #include "imageview/MouseDownMode.h"
 #include "imageview/Picture.h"
 #include "imageview/ScaledImage.h"
+#include "platform/BackgroundWork.h"
 
 #include <QTimer>
 #include <QUrl>
@@ -16,7 +17,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <vector>
 
 class ImageViewAxes;
@@ -155,10 +155,14 @@ public:
     /// Brings the controls and the hover timer in line with the picture and the page.
     void setButtonStates();
 
-    /// Runs `ready` once dataForSave() has no picture left to encode: at once, or after a large
-    /// picture was encoded in the background.
+    /// Runs `ready` once the picture is encoded. A large one is encoded in the background, from the
+    /// moment at which it comes.
     void encodePicture(std::function<void()> ready);
+    /// Whether dataForSave() has no large picture left to encode.
+    [[nodiscard]] bool pictureIsEncoded() const;
     [[nodiscard]] ArchiveDictionary dataForSave() const;
+    /// The same, without a picture that is not encoded yet.
+    [[nodiscard]] ArchiveDictionary dataAsFarAsEncoded() const;
     /// False for no data. A damaged picture counts as none.
     bool loadFromData(const ArchiveDictionary *stored);
 
@@ -223,8 +227,8 @@ private:
     bool openPicture(const PictureSource &source);
     void openPdfFile(const QString &path);
     void presentProblem(const QString &explanation);
-    void beginEncoding();
-    void endEncoding(qint64 pixelsKey, std::shared_ptr<const ArchivedPicture> encoded);
+    void otherPictureCame();
+    void pictureWasEncoded(std::shared_ptr<const ArchivedPicture> encoded);
     void imageRotated();
     void makeScaledImage();
     void zoomAbout(double factor, QPointF viewportPosition);
@@ -276,7 +280,7 @@ private:
     std::optional<ScaledImage> m_scaledImage;
     mutable std::shared_ptr<const ArchivedPicture> m_archivedImage; ///< made at the first save
     std::vector<std::function<void()>> m_waitingForEncoding;
-    std::jthread m_encoding;
+    BackgroundWork m_encoding;
 
     QTimer m_mouseCheckTimer;
     int m_mouseDownMode = 0;

@@ -15,39 +15,40 @@ bool isLarge(const QImage &pixels)
 
 } // namespace
 
+bool GraphImageView::pictureIsEncoded() const
+{
+    return !m_originalImage || m_archivedImage != nullptr || !isLarge(m_originalImage->pixels());
+}
+
 void GraphImageView::encodePicture(std::function<void()> ready)
 {
-    if (!m_originalImage || m_archivedImage != nullptr || !isLarge(m_originalImage->pixels())) {
+    if (pictureIsEncoded()) {
         ready();
         return;
     }
     m_waitingForEncoding.push_back(std::move(ready));
-    if (m_waitingForEncoding.size() == 1)
-        beginEncoding();
+    if (!m_encoding.isWorking())
+        otherPictureCame();
 }
 
-void GraphImageView::beginEncoding()
+// Those who wait for the encoding of the earlier picture wait for this one's.
+void GraphImageView::otherPictureCame()
 {
-    m_encoding = std::jthread([this, picture = *m_originalImage] {
-        std::shared_ptr<const ArchivedPicture> encoded = ArchivedPicture::archived(picture);
-        QMetaObject::invokeMethod(
-            this,
-            [this, key = picture.pixels().cacheKey(), encoded = std::move(encoded)] {
-                endEncoding(key, encoded);
-            },
-            Qt::QueuedConnection);
+    m_encoding.abandon();
+    if (pictureIsEncoded() && m_waitingForEncoding.empty())
+        return;
+    m_encoding.begin([this, picture = m_originalImage, isEncoded = pictureIsEncoded()](
+                         const std::stop_token &stop) -> BackgroundWork::Handler {
+        std::shared_ptr<const ArchivedPicture> encoded =
+            isEncoded ? nullptr : ArchivedPicture::archived(*picture, stop);
+        return [this, encoded = std::move(encoded)] { pictureWasEncoded(encoded); };
     });
 }
 
-void GraphImageView::endEncoding(qint64 pixelsKey, std::shared_ptr<const ArchivedPicture> encoded)
+void GraphImageView::pictureWasEncoded(std::shared_ptr<const ArchivedPicture> encoded)
 {
-    const bool isPresent = m_originalImage && m_originalImage->pixels().cacheKey() == pixelsKey;
-    if (isPresent && m_archivedImage == nullptr)
+    if (m_archivedImage == nullptr)
         m_archivedImage = std::move(encoded);
-    else if (m_originalImage && !isPresent && m_archivedImage == nullptr) {
-        beginEncoding(); // another picture has taken its place meanwhile
-        return;
-    }
     for (const std::function<void()> &ready : std::exchange(m_waitingForEncoding, {}))
         ready();
 }

@@ -412,6 +412,8 @@ TEST_F(DocumentControllerTest, whatACrashLeftIsBroughtBack)
     EXPECT_EQ(document().displayName(), QStringLiteral("chart.crvgrab"));
     EXPECT_EQ(document().dataSeries().validSeries().size(), 1U);
     // It is kept anew, for the next crash.
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return !QFile::exists(path("state/recovery/crashed/1.unsaved")); }));
     EXPECT_EQ(keptDocuments(), 1);
 }
 

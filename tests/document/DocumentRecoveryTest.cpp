@@ -41,10 +41,27 @@ std::size_t pointsKept(TestServices &services)
     return std::get<ArchiveArray>(series->arrayForKey("Data Series")->at(0).value).size();
 }
 
-void addPoint(TestDocument &test, int x)
+bool pointsAreKept(TestServices &services, std::size_t count)
 {
-    test.click(x, 100);
-    test.document->keepSafeNow();
+    return QTest::qWaitFor([&] { return pointsKept(services) == count; }, 9000);
+}
+
+bool nothingIsKept(TestServices &services)
+{
+    return QTest::qWaitFor([&services] {
+        return keptFiles(services, "*.unsaved").isEmpty() &&
+               keptFiles(services, "*.picture").isEmpty();
+    });
+}
+
+/// A picture that takes a while to be encoded.
+QImage largePicture()
+{
+    QImage picture(1600, 1200, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, qRgb((x * 89 ^ y * 57) % 256, x * y % 256, (x + y) % 256));
+    return picture;
 }
 
 } // namespace
@@ -60,29 +77,34 @@ TEST(DocumentRecovery, thePictureIsWrittenOnlyOnce)
 {
     TestDocument test;
     test.digitize();
-    addPoint(test, 100);
+    test.click(100, 100);
+    test.document->keepSafeNow();
+    ASSERT_TRUE(pointsAreKept(test.services, 1));
     const QString picture = keptFiles(test.services, "*.picture").value(0);
     ASSERT_FALSE(picture.isEmpty());
     const auto written = std::filesystem::last_write_time(picture.toStdString());
-    addPoint(test, 150);
+    test.click(150, 100);
+    test.document->keepSafeNow();
+    EXPECT_TRUE(pointsAreKept(test.services, 2));
     EXPECT_EQ(keptFiles(test.services, "*.picture"), QStringList{picture});
     EXPECT_EQ(std::filesystem::last_write_time(picture.toStdString()), written);
-    EXPECT_EQ(pointsKept(test.services), 2U);
 }
 
 TEST(DocumentRecovery, anotherPictureTakesThePlaceOfTheFirst)
 {
     TestDocument test;
-    addPoint(test, 100);
+    test.document->keepSafeNow();
+    ASSERT_TRUE(isKept(test.services));
     const QString first = keptFiles(test.services, "*.picture").value(0);
     QImage picture(300, 200, QImage::Format_RGB32);
     picture.fill(Qt::gray);
     test.document->graphView().replaceImageWithImageRep(picture);
     test.endEvent();
     test.document->keepSafeNow();
-    const QStringList pictures = keptFiles(test.services, "*.picture");
-    ASSERT_EQ(pictures.size(), 1);
-    EXPECT_NE(pictures.first(), first);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QStringList pictures = keptFiles(test.services, "*.picture");
+        return pictures.size() == 1 && pictures.first() != first;
+    }));
 }
 
 TEST(DocumentRecovery, aSaveEndsTheNeed)
@@ -93,9 +115,8 @@ TEST(DocumentRecovery, aSaveEndsTheNeed)
     ASSERT_TRUE(isKept(test.services));
     test.command("saveDocumentAs");
     ASSERT_TRUE(test.services.panels->confirm(folder.filePath("a.crvgrab")));
+    EXPECT_TRUE(nothingIsKept(test.services));
     EXPECT_TRUE(keptFiles(test.services, "*").filter("lock").size() == 1);
-    EXPECT_TRUE(keptFiles(test.services, "*.unsaved").isEmpty());
-    EXPECT_TRUE(keptFiles(test.services, "*.picture").isEmpty());
 }
 
 TEST(DocumentRecovery, undoingTheLastChangeEndsTheNeed)
@@ -106,7 +127,7 @@ TEST(DocumentRecovery, undoingTheLastChangeEndsTheNeed)
     test.document->keepSafeNow();
     ASSERT_TRUE(isKept(test.services));
     test.document->updateChangeCount(ChangeKind::Undone);
-    EXPECT_TRUE(keptFiles(test.services, "*.unsaved").isEmpty());
+    EXPECT_TRUE(nothingIsKept(test.services));
 }
 
 TEST(DocumentRecovery, closingWithoutSavingEndsTheNeed)
@@ -118,7 +139,7 @@ TEST(DocumentRecovery, closingWithoutSavingEndsTheNeed)
     ASSERT_EQ(test.services.sheets->waitingCount(), 1U);
     EXPECT_TRUE(isKept(test.services));
     test.services.sheets->answerFirst(SheetAnswer::Other);
-    EXPECT_TRUE(keptFiles(test.services, "*.unsaved").isEmpty());
+    EXPECT_TRUE(nothingIsKept(test.services));
 }
 
 TEST(DocumentRecovery, aDocumentThatIsNotModifiedIsNotKept)
@@ -139,4 +160,75 @@ TEST(DocumentRecovery, aDiskThatRefusesIsToldOnce)
     test.ui().statusBar->clearMessage();
     test.document->keepSafeNow();
     EXPECT_TRUE(test.ui().statusBar->currentMessage().isEmpty());
+}
+
+TEST(DocumentRecovery, ofManyChangesTheLastIsOnTheDisk)
+{
+    TestDocument test;
+    test.digitize();
+    for (int i = 1; i <= 20; ++i) {
+        test.click(100 + 10 * i, 100);
+        test.document->keepSafeNow();
+    }
+    EXPECT_TRUE(pointsAreKept(test.services, 20));
+}
+
+TEST(DocumentRecovery, changesDoNotWaitForALargePicture)
+{
+    TestDocument test;
+    test.document->keepSafeNow();
+    ASSERT_TRUE(isKept(test.services));
+    test.document->graphView().replaceImageWithImageRep(largePicture());
+    test.digitize();
+    test.click(100, 100);
+    ASSERT_FALSE(test.document->graphView().pictureIsEncoded());
+    test.document->keepSafeNow();
+    EXPECT_TRUE(pointsAreKept(test.services, 1));
+    // The picture follows.
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const auto kept = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
+            const ArchiveDictionary *view =
+                kept ? kept->root.dictionaryForKey("GraphImageView Data") : nullptr;
+            return view != nullptr && view->objectForKey("Original Image") != nullptr;
+        },
+        30'000));
+    EXPECT_TRUE(test.document->graphView().pictureIsEncoded());
+}
+
+TEST(DocumentRecovery, aWriteThatFailsIsTold)
+{
+    TestDocument test;
+    test.document->keepSafeNow();
+    ASSERT_TRUE(isKept(test.services));
+    QDir(test.services.recoveryFolder()).removeRecursively();
+    test.document->keepSafeNow();
+    EXPECT_TRUE(QTest::qWaitFor([&test] {
+        return test.ui().statusBar->currentMessage().contains(qtTrId("platform.file.folderGone"));
+    }));
+}
+
+TEST(DocumentRecovery, whatItTakesThePlaceOfGoesOnceItIsKept)
+{
+    TestDocument test;
+    const QTemporaryDir folder;
+    RecoveryStore crashed(folder.filePath(QStringLiteral("recovery")));
+    const QString key = crashed.newKey();
+    ASSERT_FALSE(RecoveryStore::keep(key, {test.document->rootDictionary(), {}, {}, {}}, {}));
+    test.document->keepSafeNow(key);
+    EXPECT_TRUE(QTest::qWaitFor([&key] { return !QFile::exists(key); }));
+    EXPECT_TRUE(isKept(test.services));
+}
+
+TEST(DocumentRecovery, whatItTakesThePlaceOfGoesWithADocumentThatIsNotWanted)
+{
+    TestDocument test;
+    const QTemporaryDir folder;
+    RecoveryStore crashed(folder.filePath(QStringLiteral("recovery")));
+    const QString key = crashed.newKey();
+    ASSERT_FALSE(RecoveryStore::keep(key, {test.document->rootDictionary(), {}, {}, {}}, {}));
+    test.document->keepSafeNow(key);
+    test.markSaved();
+    EXPECT_TRUE(QTest::qWaitFor([&key] { return !QFile::exists(key); }));
+    EXPECT_TRUE(nothingIsKept(test.services));
 }

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using documentarchive::unarchived;
 
 namespace {
@@ -348,4 +350,81 @@ TEST(DocumentSaving, closingDuringASaveThatFailsKeepsTheWindow)
     EXPECT_FALSE(test.document->window().close());
     EXPECT_EQ(test.services.sheets->presented().back().message,
               qtTrId("document.close.title").arg(test.document->displayName()));
+}
+
+namespace {
+
+/// A document around a picture whose file takes a while to be written.
+class LargeDocument : public testing::Test
+{
+protected:
+    LargeDocument()
+        : test(QSize(0, 0))
+        , path(m_folder.filePath(QStringLiteral("large.crvgrab")))
+    {
+        QImage noise(1600, 1200, QImage::Format_RGB32);
+        std::mt19937 random(3);
+        for (int y = 0; y < noise.height(); ++y)
+            for (int x = 0; x < noise.width(); ++x)
+                noise.setPixel(x, y, 0xff000000U | static_cast<QRgb>(random() & 0xffffffU));
+        test.document->graphView().replaceImageWithImageRep(noise);
+        test.digitize();
+        test.document->setFileUrl(QUrl::fromLocalFile(path));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return test.document->graphView().pictureIsEncoded(); }, 60'000));
+    }
+
+    bool isSaved()
+    {
+        return QTest::qWaitFor([this] { return test.document->fileStamp().has_value(); }, 60'000);
+    }
+
+    TestDocument test;
+
+private:
+    QTemporaryDir m_folder;
+
+protected:
+    QString path;
+};
+
+} // namespace
+
+TEST_F(LargeDocument, thePictureIsEncodedBeforeAnybodyAsks)
+{
+    test.document->saveDocument();
+    EXPECT_TRUE(isSaved());
+    EXPECT_FALSE(test.document->isDocumentEdited());
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+}
+
+TEST_F(LargeDocument, whatIsDoneWhileTheFileIsWrittenIsNotSaved)
+{
+    test.document->saveDocument();
+    test.document->updateChangeCount(ChangeKind::Done);
+    ASSERT_TRUE(isSaved());
+    EXPECT_TRUE(test.document->isDocumentEdited());
+    test.document->updateChangeCount(ChangeKind::Undone);
+    EXPECT_FALSE(test.document->isDocumentEdited());
+    test.document->updateChangeCount(ChangeKind::Undone);
+    EXPECT_TRUE(test.document->isDocumentEdited());
+}
+
+TEST_F(LargeDocument, whatIsUndoneAndReplacedWhileTheFileIsWrittenIsNotSaved)
+{
+    test.document->saveDocument();
+    test.document->updateChangeCount(ChangeKind::Undone);
+    test.document->updateChangeCount(ChangeKind::Done);
+    ASSERT_TRUE(isSaved());
+    EXPECT_TRUE(test.document->isDocumentEdited());
+}
+
+TEST_F(LargeDocument, closingWithASaveAsksAgainAboutWhatWasDoneMeanwhile)
+{
+    test.document->window().close();
+    test.services.sheets->answerFirst(SheetAnswer::Default);
+    test.click(120, 100);
+    ASSERT_TRUE(isSaved());
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
 }
