@@ -317,6 +317,8 @@ void MyDocument::showLoaded()
     // From where a new window begins, so that a used one comes to the same state.
     forceAxisSettingMode();
     windowControllerDidLoadNib();
+    if (m_isKey)
+        showInInfoPanel();
 }
 
 void MyDocument::revertToLoaded(const std::optional<durablefile::Stamp> &stamp)

@@ -212,6 +212,16 @@ TEST_F(InfoPanelBesideDocument, showsEverythingAsSoonAsThereIsAPicture)
     EXPECT_EQ(text("dataInfo3"), "0 row");
 }
 
+TEST_F(InfoPanelBesideDocument, showsWhatIsLoadedIntoTheWindowInUse)
+{
+    const TestDocument drawn;
+    const TestDocument test{QSize(0, 0)};
+    activate(*test.document);
+    test.document->loadRemains(drawn.document->rootDictionary());
+    test.document->showLoaded();
+    EXPECT_EQ(text("imageInfo0"), "500 × 400");
+}
+
 TEST_F(InfoPanelBesideDocument, followsTheTurningOfThePicture)
 {
     TestDocument test({500, 400});
