@@ -63,10 +63,24 @@ QAction *DocumentController::addSharedItem(const char *name, const char *text, i
     return action;
 }
 
+// Documents without a file are told apart by their numbers.
 MyDocument &DocumentController::addDocument()
 {
-    m_documents.push_back(std::make_unique<MyDocument>(*this, ++m_lastNumber));
+    int last = 0;
+    for (const auto &document : m_documents) {
+        if (document->fileUrl().isEmpty())
+            last = std::max(last, document->number());
+    }
+    m_documents.push_back(std::make_unique<MyDocument>(*this, last + 1));
     return *m_documents.back();
+}
+
+std::vector<MyDocument *> DocumentController::openDocuments() const
+{
+    std::vector<MyDocument *> open;
+    for (const auto &document : m_documents)
+        open.push_back(document.get());
+    return open;
 }
 
 QString DocumentController::standardStateFolder()

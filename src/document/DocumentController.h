@@ -65,6 +65,7 @@ public:
     void openFiles(const QStringList &paths) override;
     void openCopy(const QString &path) override;
     [[nodiscard]] QString examplesFolder() const override;
+    [[nodiscard]] std::vector<MyDocument *> openDocuments() const override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
     [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;
@@ -111,5 +112,4 @@ private:
     std::vector<std::unique_ptr<MyDocument>> m_documents;
     MyDocument *m_keyDocument = nullptr;
     std::vector<std::function<void()>> m_afterOpening;
-    int m_lastNumber = 0;
 };

@@ -4,6 +4,7 @@
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
 #include "document/RecentFilesMenu.h"
+#include "document/WindowListMenu.h"
 #include "imageview/MouseDownMode.h"
 #include "platform/Texts.h"
 #include "platform/UndoManager.h"
@@ -320,11 +321,17 @@ void DocumentMenus::addDataMenu()
 void DocumentMenus::addWindowMenu()
 {
     QMenu *menu = addMenu("document.menu.window");
+    add(menu, {"performMiniaturize",
+               "document.command.minimize",
+               noRule,
+               {keys("Ctrl+M")},
+               &MyDocument::performMiniaturize});
     add(menu, {"zoomWindow",
                "document.command.zoomWindow",
                menurules::PictureCommand,
                {keys("Ctrl+Shift+W")},
                &MyDocument::zoomWindow});
+    new WindowListMenu(m_document, menu);
 }
 
 void DocumentMenus::addHelpMenu()

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 class Clipboard;
 class CurvegrabPrefs;
@@ -55,6 +56,8 @@ public:
     virtual void openCopy(const QString &path) = 0;
     /// The folder with the documents that come with the program.
     [[nodiscard]] virtual QString examplesFolder() const = 0;
+    /// The documents whose windows are open, oldest first.
+    [[nodiscard]] virtual std::vector<MyDocument *> openDocuments() const = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
     /// Where unsaved changes are kept safe from a crash.
     [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;

@@ -367,6 +367,8 @@ void MyDocument::openCopy(const QString &path) { m_services.openCopy(path); }
 
 QString MyDocument::examplesFolder() const { return m_services.examplesFolder(); }
 
+std::vector<MyDocument *> MyDocument::openDocuments() const { return m_services.openDocuments(); }
+
 void MyDocument::clearRecentFiles() { m_services.recentFiles().clear(); }
 
 void MyDocument::saveDocument() { m_saving->save({}); }
@@ -387,6 +389,8 @@ void MyDocument::saveDataAs() { m_seriesExport->saveDataAs(); }
 void MyDocument::saveSelectionAs() { m_seriesExport->saveSelectionAs(); }
 
 void MyDocument::performClose() { m_window->close(); }
+
+void MyDocument::performMiniaturize() { m_window->showMinimized(); }
 
 void MyDocument::terminate() { m_services.terminate(); }
 

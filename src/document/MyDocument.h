@@ -121,6 +121,7 @@ public:
     [[nodiscard]] QStringList recentFiles() const;
     /// The folder with the documents that come with the program.
     [[nodiscard]] QString examplesFolder() const;
+    [[nodiscard]] std::vector<MyDocument *> openDocuments() const;
 
     [[nodiscard]] DocumentWindow &window() const { return *m_window; }
     [[nodiscard]] GraphImageView &graphView() const { return *m_graphView; }
@@ -141,6 +142,8 @@ public:
     void updateChangeCount(ChangeKind kind);
     [[nodiscard]] bool isDocumentEdited() const { return m_changeCount != 0 || m_savedStateIsGone; }
     [[nodiscard]] QString displayName() const;
+    /// Tells documents without a file apart.
+    [[nodiscard]] int number() const { return m_number; }
 
     /// Axis-setting mode: the first tab is selected; otherwise digitizing.
     [[nodiscard]] bool isInAxisSettingMode() const;
@@ -232,6 +235,7 @@ public Q_SLOTS:
     void setDrawMarkersAndLines();
     void setDrawLines();
     void simulateToggleSort();
+    void performMiniaturize();
     /// The Window menu's zoom: to the standard frame and back to the user's.
     void zoomWindow();
     void about();

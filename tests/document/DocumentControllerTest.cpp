@@ -313,6 +313,49 @@ TEST_F(DocumentControllerTest, recentFilesAreOfferedAndCanBeForgotten)
     EXPECT_TRUE(controller.recentFiles().paths().isEmpty());
 }
 
+TEST_F(DocumentControllerTest, aRecentFileThatVanishedIsToldAndForgotten)
+{
+    const QString file = putDocument("a.crvgrab");
+    start({file});
+    controller.newDocument();
+    ASSERT_TRUE(QFile::remove(file));
+    document(0).window().close();
+    auto *menu = document(0).window().findChild<QMenu *>(QStringLiteral("recentFilesMenu"));
+    Q_EMIT menu->aboutToShow();
+    menu->actions().at(0)->trigger();
+    QMessageBox *box = sheetOf(document(0));
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), qtTrId("document.open.missing"));
+    EXPECT_TRUE(controller.recentFiles().paths().isEmpty());
+}
+
+TEST_F(DocumentControllerTest, theWindowMenuListsTheWindowsAndBringsThemToTheFront)
+{
+    start({putDocument("a&b.crvgrab"), putDocument("c.crvgrab")});
+    auto *command = document(1).window().findChild<QAction *>(QStringLiteral("zoomWindow"));
+    auto *menu = qobject_cast<QMenu *>(command->associatedObjects().at(0));
+    ASSERT_NE(menu, nullptr);
+    Q_EMIT menu->aboutToShow();
+    Q_EMIT menu->aboutToShow();
+    const QList<QAction *> windows = menu->actions().mid(menu->actions().size() - 2);
+    EXPECT_EQ(windows.at(0)->text(), "a&&b.crvgrab");
+    EXPECT_EQ(windows.at(0)->toolTip(), document(0).fileUrl().toLocalFile());
+    EXPECT_FALSE(windows.at(0)->isChecked());
+    EXPECT_TRUE(windows.at(1)->isChecked());
+    ASSERT_TRUE(menu->actions().at(menu->actions().size() - 3)->isSeparator());
+    windows.at(0)->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document(0).window().isActiveWindow(); }));
+}
+
+TEST_F(DocumentControllerTest, documentsWithoutAFileAreNumberedFromOne)
+{
+    start({putDocument("a.crvgrab"), putDocument("b.crvgrab")});
+    controller.newDocument();
+    EXPECT_EQ(document(2).displayName(), qtTrId("document.title.untitled"));
+    controller.newDocument();
+    EXPECT_EQ(document(3).displayName(), qtTrId("document.title.numbered").arg(2));
+}
+
 TEST_F(DocumentControllerTest, recentFilesAreKeptApartFromThePreferencesAndBounded)
 {
     for (int i = 0; i < 15; ++i)

@@ -85,6 +85,7 @@ public:
     void openFiles(const QStringList &paths) override { openedFiles += paths; }
     void openCopy(const QString &path) override { openedCopies += path; }
     QString examplesFolder() const override { return examples; }
+    [[nodiscard]] std::vector<MyDocument *> openDocuments() const override { return {}; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
     RecoveryStore &recoveryStore() override { return m_recovery; }
     [[nodiscard]] QString recoveryFolder() const

@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>&amp;Automatisch sortieren</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>&amp;Minimieren</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>&amp;Fenster an Bild anpassen</translation>

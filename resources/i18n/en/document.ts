@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>&amp;Sort Automatically</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>&amp;Minimize</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>Fit Window to &amp;Picture</translation>

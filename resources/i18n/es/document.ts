@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>&amp;Ordenar automáticamente</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>&amp;Minimizar</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>&amp;Ajustar la ventana a la imagen</translation>

@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>Trier aut&amp;omatiquement</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>&amp;Réduire</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>&amp;Ajuster la fenêtre à l’image</translation>

@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>自動的に並べる(&amp;S)</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>最小化(&amp;M)</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>ウィンドウを画像に合わせる(&amp;P)</translation>

@@ -631,6 +631,10 @@
         <source>&amp;Sort Automatically</source>
         <translation>自动排序(&amp;S)</translation>
     </message>
+    <message id="document.command.minimize">
+        <source>&amp;Minimize</source>
+        <translation>最小化(&amp;M)</translation>
+    </message>
     <message id="document.command.zoomWindow">
         <source>Fit Window to &amp;Picture</source>
         <translation>使窗口适合图片(&amp;P)</translation>
