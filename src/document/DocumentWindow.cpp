@@ -33,7 +33,7 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     , m_ui(std::make_unique<Ui::MyDocument>())
 {
     m_ui->setupUi(this);
-    setObjectName(QStringLiteral("MyDocument"));
+    setObjectName(MyDocument::windowNibName());
     m_ui->actionSelectionTab->setTabs(m_ui->axisTabButton, m_ui->digitizingTabButton,
                                       m_ui->actionPages);
     m_ui->dataTableDrawer->setContent(m_ui->dataTableView);

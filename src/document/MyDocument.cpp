@@ -296,12 +296,13 @@ void MyDocument::zoomWindow()
     const FloatSize standard = windowWillUseStandardFrame();
     const QSize before = m_window->size();
     const bool isStandard = windowFrameSize() == standard;
+    const QSize drawer(m_window->ui().dataTableDrawer->widthInWindow(), 0);
     if (isStandard && m_userFrame.isValid()) {
-        m_window->resize(m_userFrame.size());
+        m_window->resize(m_userFrame.size() + drawer);
         m_window->move(m_userFrame.topLeft());
         return;
     }
-    const QRect userFrame(m_window->pos(), m_window->size());
+    const QRect userFrame(m_window->pos(), before - drawer);
     applyStandardFrame();
     if (m_window->size() != before)
         m_userFrame = userFrame;
@@ -379,9 +380,13 @@ void MyDocument::revertDocumentToSaved() { m_saving->revert(); }
 
 void MyDocument::openImageFile()
 {
-    m_dialogs.panels->choosePictureToOpen(picturesuffixes::all(), [this](const QString &path) {
-        m_graphView->openImageFile(QUrl::fromLocalFile(path));
-    });
+    m_dialogs.panels->choosePictureToOpen(
+        picturesuffixes::all(), [this](const QString &path) { openImageFileDidEnd(path); });
+}
+
+void MyDocument::openImageFileDidEnd(const QString &path)
+{
+    m_graphView->openImageFile(QUrl::fromLocalFile(path));
 }
 
 void MyDocument::saveDataAs() { m_seriesExport->saveDataAs(); }

@@ -50,6 +50,8 @@ public:
     explicit MyDocument(DocumentServices &services, int number = 1, QObject *parent = nullptr);
     ~MyDocument() override;
 
+    /// The interface file that the window is made from.
+    [[nodiscard]] static QString windowNibName() { return QStringLiteral("MyDocument"); }
     /// Sets the window up and shows it.
     void showWindow();
 
@@ -264,6 +266,8 @@ private:
     void applyFrame(const QRect &frame);
     [[nodiscard]] QRect frameWithoutDrawer() const;
     void openOwnPicture();
+    /// `openImageFileDidEnd:returnCode:contextInfo:` takes the picture that the user has confirmed.
+    void openImageFileDidEnd(const QString &path);
     void chooseAxisType(int type);
     void runPostponedCommands();
     void drawerDidOpen();
@@ -294,7 +298,7 @@ private:
     documentarchive::Reading m_refused;
     std::vector<std::function<void()>> m_whenOnScreen;
     std::vector<std::pair<int, std::function<void()>>> m_postponed;
-    QRect m_userFrame;
+    QRect m_userFrame; ///< without the drawer
 
     std::unique_ptr<AxesAdapter> m_axesAdapter;
     std::unique_ptr<CaptureAdapter> m_captureAdapter;

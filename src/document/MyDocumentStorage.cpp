@@ -193,7 +193,10 @@ void MyDocument::restoreWindow(const ArchiveDictionary &root)
     const FloatSize size =
         geometrytext::sizeFromString(root.stringForKey(documentkeys::dataTableSize));
     drawer.setContentWidth(static_cast<int>(std::min(size.width, 1e6F)));
-    m_drawerOpenButtonState = root.intForKey(documentkeys::dataTableViewState);
+    // The button knows two states, whatever number a file has.
+    m_drawerOpenButtonState = root.intForKey(documentkeys::dataTableViewState) == drawerIsOpen
+                                  ? drawerIsOpen
+                                  : drawerIsClosed;
     if (m_drawerOpenButtonState == drawerIsOpen)
         drawer.open();
     drawerStateChanged();

@@ -139,6 +139,36 @@ TEST(DocumentCommands, copyIsDisabledWithTheTableHidden)
     EXPECT_FALSE(test.action("saveSelectionAs")->isEnabled());
 }
 
+TEST(DocumentCommands, theKeysCopyNothingWithTheTableHidden)
+{
+    TestDocument test;
+    test.digitize();
+    test.click(100, 50);
+    test.document->dataTableView().selectAll();
+    test.document->showHideDataTable();
+    DocumentWindow &window = test.document->window();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(test.services.fakeClipboard.text());
+    test.document->showHideDataTable();
+    QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(test.services.fakeClipboard.text());
+}
+
+TEST(DocumentCommands, theRuleIsLookedAtBeforeAKeyActs)
+{
+    TestDocument test;
+    test.digitize();
+    test.click(100, 50);
+    test.document->dataTableView().selectAll();
+    QAction *copy = test.action("copy");
+    test.document->showHideDataTable();
+    copy->setEnabled(true); // as if the change had not reached the menus yet
+    copy->trigger();
+    EXPECT_FALSE(test.services.fakeClipboard.text());
+}
+
 TEST(DocumentCommands, saveProposesTheNameOfThePicture)
 {
     TestDocument test;

@@ -177,12 +177,23 @@ TEST(DocumentStorage, theDrawerComesBackAsItWas)
     EXPECT_EQ(open.document.window().ui().dataTableDrawer->contentWidth(), 300);
 }
 
+TEST(DocumentStorage, aStateThatTheDrawersButtonDoesNotKnowIsClosed)
+{
+    const LoadedDocument loaded(archivedData(rootWithFrame("{{100, 200}, {900, 700}}", 5)));
+    EXPECT_EQ(loaded.document.drawerOpenButtonState(), 1);
+    EXPECT_FALSE(loaded.document.window().ui().dataTableDrawer->isOpen());
+    EXPECT_EQ(loaded.services.showHideTable.text(), qtTrId("ShowTable"));
+}
+
 TEST(DocumentStorage, aWindowThatIsHiddenOrClosedKeepsItsDrawer)
 {
     TestDocument test{QSize(0, 0)};
     test.document->window().hide();
     EXPECT_EQ(test.document->rootDictionary().intForKey(documentkeys::dataTableViewState), 0);
     test.document->window().showMinimized();
+    EXPECT_EQ(test.document->rootDictionary().intForKey(documentkeys::dataTableViewState), 0);
+    test.markSaved();
+    test.document->window().close();
     EXPECT_EQ(test.document->rootDictionary().intForKey(documentkeys::dataTableViewState), 0);
 }
 

@@ -9,11 +9,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-/// A file named chart.bmp in `folder`.
-} // namespace
-
 TEST(DocumentWindow, aNewDocumentShowsTheTable)
 {
     const TestDocument test{QSize(0, 0)};
@@ -52,6 +47,31 @@ TEST(DocumentWindow, theStandardFrameLeavesTheFixedMargins)
     const TestDocument test({900, 600});
     const FloatSize standard = test.document->windowWillUseStandardFrame();
     EXPECT_EQ(standard, (FloatSize{937, 807}));
+}
+
+TEST(DocumentWindow, theWindowMenuTogglesBetweenTheStandardAndTheUsersFrame)
+{
+    TestDocument test({700, 400});
+    DocumentWindow &window = test.document->window();
+    window.setGeometry(150, 120, 1100, 620);
+    const QRect users = window.geometry();
+    test.command("zoomWindow");
+    EXPECT_EQ(test.document->windowFrameSize(), test.document->windowWillUseStandardFrame());
+    EXPECT_EQ(window.geometry().bottomLeft(), users.bottomLeft());
+    test.command("zoomWindow");
+    EXPECT_EQ(window.geometry(), users);
+}
+
+TEST(DocumentWindow, theUsersFrameComesBackWithTheDrawerAsItIsNow)
+{
+    TestDocument test({700, 400});
+    DocumentWindow &window = test.document->window();
+    window.setGeometry(150, 120, 1100, 620);
+    const FloatSize users = test.document->windowFrameSize();
+    test.command("zoomWindow");
+    test.document->showHideDataTable();
+    test.command("zoomWindow");
+    EXPECT_EQ(test.document->windowFrameSize(), users);
 }
 
 TEST(DocumentWindow, aPictureAtTheStandardFrameIsSeenWhole)
