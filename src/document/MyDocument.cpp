@@ -372,9 +372,18 @@ std::vector<MyDocument *> MyDocument::openDocuments() const { return m_services.
 
 void MyDocument::clearRecentFiles() { m_services.recentFiles().clear(); }
 
-void MyDocument::saveDocument() { m_saving->save({}); }
+// Until a file is read whole there is nothing that could take its place.
+void MyDocument::saveDocument()
+{
+    if (!isReading())
+        m_saving->save({});
+}
 
-void MyDocument::saveDocumentAs() { m_saving->saveAs({}); }
+void MyDocument::saveDocumentAs()
+{
+    if (!isReading())
+        m_saving->saveAs({});
+}
 
 void MyDocument::revertDocumentToSaved() { m_saving->revert(); }
 

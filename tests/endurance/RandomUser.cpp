@@ -317,7 +317,7 @@ void RandomUser::revert()
     if (!m_test.services.sheets->answerFirst(below(4) == 0 ? SheetAnswer::Alternate
                                                            : SheetAnswer::Default))
         return;
-    QCoreApplication::processEvents();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !document().isReading(); }));
     ++m_reverts;
 }
 
