@@ -19,8 +19,8 @@ class ArchivedPicture final : public Archivable
 public:
     static constexpr std::string_view archivedName = "NSImage";
 
-    /// Encodes `picture`, in any thread; null if there is not enough memory for it, or soon after
-    /// `stop` was requested.
+    /// Encodes `picture`, in any thread; null if there is not enough memory for it. An encoding
+    /// that would take seconds leaves off, with null, soon after `stop` was requested.
     [[nodiscard]] static std::shared_ptr<const ArchivedPicture>
     archived(const Picture &picture, const std::stop_token &stop = {});
 
