@@ -20,7 +20,8 @@ PictureOpener::PictureOpener(QWidget &progressHost)
     : m_reading(progressHost)
 {}
 
-std::optional<PictureReading> PictureOpener::open(const PictureSource &source, Handler finished)
+std::optional<PictureReading> PictureOpener::open(const PictureSource &source,
+                                                  const Handler &finished)
 {
     cancel();
     const PictureReader reader(picturememory::available());
@@ -29,13 +30,13 @@ std::optional<PictureReading> PictureOpener::open(const PictureSource &source, H
         return probed;
     if (!isLarge(probed.pixelSize))
         return reader.read(source);
-    begin(source, std::move(finished));
+    begin(source, finished);
     return {};
 }
 
 void PictureOpener::cancel() { m_reading.cancel(); }
 
-void PictureOpener::begin(const PictureSource &source, Handler finished)
+void PictureOpener::begin(const PictureSource &source, const Handler &finished)
 {
     m_reading.begin(
         source.name(),

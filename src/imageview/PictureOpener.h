@@ -18,13 +18,14 @@ public:
 
     /// What came of a small picture; for a large one nothing yet, and `finished` is called later,
     /// unless another one is opened before. A reading in progress is given up.
-    [[nodiscard]] std::optional<PictureReading> open(const PictureSource &source, Handler finished);
+    [[nodiscard]] std::optional<PictureReading> open(const PictureSource &source,
+                                                     const Handler &finished);
 
     /// Gives up the reading in progress; its handler is told so.
     void cancel();
 
 private:
-    void begin(const PictureSource &source, Handler finished);
+    void begin(const PictureSource &source, const Handler &finished);
 
     BackgroundReading m_reading;
 };
