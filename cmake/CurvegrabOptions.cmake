@@ -10,8 +10,9 @@ if(CURVEGRAB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 # ccache does not keep what was compiled with precompiled headers; it is the faster of the two.
-if(CURVEGRAB_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
     set(CURVEGRAB_PRECOMPILED_HEADERS OFF)
+    set(CURVEGRAB_PRECOMPILED_TESTS OFF)
 endif()
 
 add_library(curvegrab_options INTERFACE)
