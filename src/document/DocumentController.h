@@ -73,11 +73,14 @@ public:
     void documentClosed(MyDocument &document) override;
 
 private:
+    /// A copy has no name, and its file stays as it is.
+    enum class OpenAs { Itself, Copy };
+
     MyDocument &addDocument();
     void open(const QString &path);
-    void readDocument(const QString &path);
+    void readDocument(const QString &path, OpenAs as);
     void readPicture(const QString &path);
-    void wasRead(MyDocument &document, bool isNew, const QString &path,
+    void wasRead(MyDocument &document, bool isNew, const QString &path, OpenAs as,
                  const documentfile::Document &read);
     void show(MyDocument &document);
     void giveUpOpening(MyDocument &document, bool isNew);

@@ -4,10 +4,12 @@
 
 #include "document/DocumentTypes.h"
 #include "document/DocumentWindow.h"
+#include "document/ExampleDocuments.h"
 #include "document/MyDocument.h"
 #include "imageview/PictureMemory.h"
 #include "platform/Texts.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -77,7 +79,7 @@ void DocumentController::open(const QString &path)
         m_recentFiles.remove(path);
         refuse(path, texts::localized("document.open.missing"));
     } else if (documenttypes::isDocument(path)) {
-        readDocument(path);
+        readDocument(path, OpenAs::Itself);
     } else if (documenttypes::isPicture(path)) {
         readPicture(path);
     } else {
@@ -85,7 +87,14 @@ void DocumentController::open(const QString &path)
     }
 }
 
-void DocumentController::readDocument(const QString &path)
+void DocumentController::openCopy(const QString &path) { readDocument(path, OpenAs::Copy); }
+
+QString DocumentController::examplesFolder() const
+{
+    return exampledocuments::folderFor(QCoreApplication::applicationDirPath());
+}
+
+void DocumentController::readDocument(const QString &path, OpenAs as)
 {
     if (!QFileInfo(path).isFile()) {
         refuse(path, texts::localized("document.open.noFile"));
@@ -93,22 +102,23 @@ void DocumentController::readDocument(const QString &path)
     }
     MyDocument &document = documentForOpening();
     const bool isNew = !document.window().isVisible();
-    document.setFileUrl(QUrl::fromLocalFile(path));
+    if (as == OpenAs::Itself)
+        document.setFileUrl(QUrl::fromLocalFile(path));
     if (!isNew)
         document.raise();
     document.readInBackground(
         QFileInfo(path).fileName(),
-        [this, &document, isNew, path](const std::stop_token &stop, std::atomic<int> &percent) {
+        [this, &document, isNew, path, as](const std::stop_token &stop, std::atomic<int> &percent) {
             documentfile::Document read =
                 documentfile::read(path, picturememory::available(), stop, &percent);
-            return [this, &document, isNew, path, read = std::move(read)] {
-                wasRead(document, isNew, path, read);
+            return [this, &document, isNew, path, as, read = std::move(read)] {
+                wasRead(document, isNew, path, as, read);
             };
         },
         [this, &document, isNew] { giveUpOpening(document, isNew); });
 }
 
-void DocumentController::wasRead(MyDocument &document, bool isNew, const QString &path,
+void DocumentController::wasRead(MyDocument &document, bool isNew, const QString &path, OpenAs as,
                                  const documentfile::Document &read)
 {
     if (!read.error.isEmpty()) {
@@ -118,7 +128,8 @@ void DocumentController::wasRead(MyDocument &document, bool isNew, const QString
     }
     if (document.loadReading(read.reading)) {
         show(document);
-        document.wasReadFrom(path, read.stamp);
+        if (as == OpenAs::Itself)
+            document.wasReadFrom(path, read.stamp);
     } else {
         document.setFileUrl(QUrl());
         offerRemains(document, path);

@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char linear[] = "damped-oscillation.crvgrab";
@@ -178,6 +180,15 @@ protected:
         return *controller.documents().at(index);
     }
 
+    void openCopy(const QString &path)
+    {
+        controller.openCopy(path);
+        EXPECT_TRUE(QTest::qWaitFor([this] {
+            return std::none_of(controller.documents().begin(), controller.documents().end(),
+                                [](const auto &document) { return document->isReading(); });
+        }));
+    }
+
 private:
     QTemporaryDir m_folder;
     UserDefaults m_defaults;
@@ -192,7 +203,7 @@ protected:
 
 TEST_F(OpenCopyTest, showsTheDocumentWithoutAName)
 {
-    controller.openCopy(put(content));
+    openCopy(put(content));
     ASSERT_EQ(controller.documents().size(), 1U);
     EXPECT_TRUE(document().hasImage());
     EXPECT_TRUE(document().window().isVisible());
@@ -205,23 +216,36 @@ TEST_F(OpenCopyTest, showsTheDocumentWithoutAName)
 TEST_F(OpenCopyTest, theEmptyWindowTakesIt)
 {
     controller.start({});
-    controller.openCopy(put(content));
+    openCopy(put(content));
     EXPECT_EQ(controller.documents().size(), 1U);
     EXPECT_TRUE(document().hasImage());
 }
 
 TEST_F(OpenCopyTest, aSecondCopyGetsAWindowOfItsOwn)
 {
-    controller.openCopy(put(content));
-    controller.openCopy(put(content));
+    openCopy(put(content));
+    openCopy(put(content));
     ASSERT_EQ(controller.documents().size(), 2U);
     EXPECT_TRUE(document(1).hasImage());
+}
+
+TEST_F(OpenCopyTest, isReadInTheBackground)
+{
+    controller.openCopy(put(content));
+    EXPECT_TRUE(document().isReading());
+}
+
+TEST_F(OpenCopyTest, doesNotTakeAWindowThatIsStillBeingReadInto)
+{
+    controller.openCopy(put(content));
+    openCopy(put(content));
+    EXPECT_EQ(controller.documents().size(), 2U);
 }
 
 TEST_F(OpenCopyTest, savingAsksWhereAndLeavesTheExampleAlone)
 {
     const QString path = put(content);
-    controller.openCopy(path);
+    openCopy(path);
     document().saveDocument();
     auto *panel = sheet<QFileDialog>();
     ASSERT_NE(panel, nullptr);
