@@ -62,7 +62,7 @@ brauchen keinen Bildschirm und lesen nur Dokumente.
   --                alles Folgende als DATEI nehmen
 
 DATEI darf - sein, um ein Dokument von der Standardeingabe zu lesen.
-Ergebnis: 0 alles getan, 1 eine Datei ließ sich nicht lesen oder schreiben,
+Rückgabewert: 0 alles erledigt, 1 eine Datei ließ sich nicht lesen oder schreiben,
 2 falscher Aufruf.</translation>
     </message>
     <message id="app.standardInput">
@@ -168,7 +168,7 @@ Ergebnis: 0 alles getan, 1 eine Datei ließ sich nicht lesen oder schreiben,
     <message id="app.usage.digits">
         <source>'%1' is no number of digits: write a number from 1 to 17.</source>
         <extracomment>%1 is what was typed.</extracomment>
-        <translation>„%1“ ist keine Zahl von Ziffern: Schreiben Sie eine Zahl von 1 bis 17.</translation>
+        <translation>„%1“ ist keine Anzahl von Ziffern: Schreiben Sie eine Zahl von 1 bis 17.</translation>
     </message>
     <message id="app.usage.textDigits">
         <source>Text always has six digits: use '%1' with csv, json or xlsx, for example --format csv.</source>

@@ -16,7 +16,7 @@
     <message id="SeriesIsFull">
         <source>The current series was begun with other axes, and no series is empty, so the point was not added. Save your data, then delete a series that you no longer need.</source>
         <extracomment>Shown when no series is left for a point.</extracomment>
-        <translation>Die aktuelle Datenreihe wurde mit anderen Achsen begonnen und keine Datenreihe ist leer, darum wurde der Punkt nicht hinzugefügt. Sichern Sie Ihre Daten und löschen Sie dann eine Datenreihe, die Sie nicht mehr brauchen.</translation>
+        <translation>Die aktuelle Datenreihe wurde mit anderen Achsen begonnen und keine Datenreihe ist leer, darum wurde der Punkt nicht hinzugefügt. Speichern Sie Ihre Daten und löschen Sie dann eine Datenreihe, die Sie nicht mehr brauchen.</translation>
     </message>
     <message id="actionDataAppend">
         <source>Add Point</source>

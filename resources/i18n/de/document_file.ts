@@ -86,7 +86,7 @@
     </message>
     <message id="document.save.changedText">
         <source>Another program has changed this file since you opened or saved it. If you replace it, those changes are lost.</source>
-        <translation>Ein anderes Programm hat diese Datei geändert, seit Sie sie geöffnet oder gespeichert haben. Wenn Sie sie ersetzen, gehen jene Änderungen verloren.</translation>
+        <translation>Ein anderes Programm hat diese Datei geändert, seit Sie sie geöffnet oder gespeichert haben. Wenn Sie sie ersetzen, gehen diese Änderungen verloren.</translation>
     </message>
     <message id="document.save.saveAs">
         <source>Save As…</source>
@@ -110,7 +110,7 @@ Ihre Arbeit ist hier noch geöffnet. Was vorher in der Datei war, ist unverände
     </message>
     <message id="document.save.noMemory">
         <source>There is not enough memory to save the picture. Close other windows, then try again.</source>
-        <translation>Der Speicher reicht nicht, um das Bild zu sichern. Schließen Sie andere Fenster und versuchen Sie es noch einmal.</translation>
+        <translation>Der Speicher reicht nicht, um das Bild zu speichern. Schließen Sie andere Fenster und versuchen Sie es noch einmal.</translation>
     </message>
     <message id="document.close.title">
         <source>Save the changes to “%1”?</source>
@@ -217,7 +217,7 @@ Sie können, was davon übrig ist, als neues Dokument öffnen. Die Datei selbst 
 %1
 Their changes were kept.</source>
         <extracomment>The names of the documents, one a line</extracomment>
-        <translation>Curvegrab X endete, bevor diese Dokumente gespeichert wurden:
+        <translation>Curvegrab X wurde beendet, bevor diese Dokumente gespeichert waren:
 %1
 Ihre Änderungen sind erhalten.</translation>
     </message>

@@ -396,7 +396,7 @@
     <message id="prefs.markers.size.unit">
         <source>Sizes are 3 to 15 points on the screen.</source>
         <extracomment>Note below the ten rows.</extracomment>
-        <translation>Größen sind 3 bis 15 Bildschirmpunkte.</translation>
+        <translation>Größen sind 3 bis 15 Punkte auf dem Bildschirm.</translation>
     </message>
     <message id="prefs.help">
         <source>&amp;Help</source>
@@ -416,7 +416,7 @@
     <message id="prefs.factory.tip">
         <source>Show the settings that the program came with; nothing is stored until OK</source>
         <extracomment>Tool tip.</extracomment>
-        <translation>Die Einstellungen zeigen, mit denen das Programm kam; vor OK wird nichts gespeichert</translation>
+        <translation>Die Einstellungen zeigen, mit denen das Programm geliefert wird; vor OK wird nichts gespeichert</translation>
     </message>
     <message id="prefs.cancel.tip">
         <source>Close and leave every setting as it was</source>

@@ -62,7 +62,8 @@ no necesitan pantalla y solo leen documentos.
   --                tomar todo lo que sigue como ARCHIVO
 
 ARCHIVO puede ser - para leer un documento de la entrada estándar.
-Resultado: 0 todo hecho, 1 no se pudo leer o escribir un archivo, 2 uso incorrecto.</translation>
+Estado de salida: 0 todo hecho, 1 no se pudo leer o escribir un archivo, 2 uso
+incorrecto.</translation>
     </message>
     <message id="app.standardInput">
         <source>standard input</source>
@@ -137,12 +138,12 @@ Resultado: 0 todo hecho, 1 no se pudo leer o escribir un archivo, 2 uso incorrec
     <message id="app.usage.bothTitles">
         <source>--titles and --no-titles exclude each other.</source>
         <extracomment>Wrong use of the command line.</extracomment>
-        <translation>--titles y --no-titles se excluyen.</translation>
+        <translation>--titles y --no-titles se excluyen mutuamente.</translation>
     </message>
     <message id="app.usage.exportAndInfo">
         <source>--export and --info exclude each other.</source>
         <extracomment>Wrong use of the command line.</extracomment>
-        <translation>--export y --info se excluyen.</translation>
+        <translation>--export y --info se excluyen mutuamente.</translation>
     </message>
     <message id="app.usage.exportOnly">
         <source>The option '%1' makes sense only together with --export.</source>

@@ -51,7 +51,7 @@
     <message id="prefs.axis.anchor">
         <source>Anchor size:</source>
         <extracomment>Caption in the preferences window.</extracomment>
-        <translation>Tamaño del ancla:</translation>
+        <translation>Tamaño de las anclas:</translation>
     </message>
     <message id="prefs.axis.anchor.tip">
         <source>How large the squares at the ends of the axes are</source>

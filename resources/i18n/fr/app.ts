@@ -53,7 +53,7 @@ n’ont pas besoin d’écran et ne lisent que des documents.
   --series LISTE    les séries à exporter, par exemple 1,3-5 ; all (par défaut) désigne
                     chaque série qui contient des points
   --titles          commencer par une ligne de titres
-  --no-titles       n’écrire que des nombres ; sans l’une de ces options, la préférence
+  --no-titles       n’écrire que des nombres ; sans aucune des deux, la préférence
                     « Titres à l’enregistrement » décide
   --info            afficher la taille de l’image, les axes et la quantité de données
   --json            les afficher comme un objet JSON par ligne

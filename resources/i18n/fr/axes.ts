@@ -206,12 +206,12 @@
     <message id="axes.hint.polar.swing">
         <source>Drag to turn and resize the disc by this corner</source>
         <extracomment>Status line: polar axes, a handle across the radius.</extracomment>
-        <translation>Faites glisser pour tourner et redimensionner le disque par ce coin</translation>
+        <translation>Faites glisser pour faire tourner et redimensionner le disque par ce coin</translation>
     </message>
     <message id="axes.hint.polar.turn">
         <source>Drag to turn the radius</source>
         <extracomment>Status line: polar axes, a rotation handle.</extracomment>
-        <translation>Faites glisser pour tourner le rayon</translation>
+        <translation>Faites glisser pour faire tourner le rayon</translation>
     </message>
     <message id="axes.hint.polar.size">
         <source>Drag to make the radius longer or shorter</source>

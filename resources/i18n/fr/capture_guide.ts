@@ -66,7 +66,7 @@
     <message id="capture.table.columnTip">
         <source>Series %d: click to select it, Shift-click to select up to here, Ctrl-click to add it</source>
         <extracomment>Tooltip of a column title; %d is the number of the series.</extracomment>
-        <translation>Série %d : cliquez pour la sélectionner, Maj-clic pour sélectionner jusqu’ici, Ctrl-clic pour l’ajouter</translation>
+        <translation>Série %d : cliquez pour la sélectionner, Maj+clic pour sélectionner jusqu’ici, Ctrl+clic pour l’ajouter</translation>
     </message>
     <message id="capture.table.selectAllTip">
         <source>Select all series that hold points</source>

@@ -437,7 +437,7 @@
     </message>
     <message id="document.table.tip">
         <source>One column per series. Click a column to select its series; Ctrl-click adds one, Shift-click a range.</source>
-        <translation>Une colonne par série. Cliquez sur une colonne pour sélectionner sa série ; Ctrl-clic en ajoute une, Maj-clic une plage.</translation>
+        <translation>Une colonne par série. Cliquez sur une colonne pour sélectionner sa série ; Ctrl+clic en ajoute une, Maj+clic une plage.</translation>
     </message>
     <message id="document.table.handle.tip">
         <source>Drag to change the width of the table, click to show or hide it</source>

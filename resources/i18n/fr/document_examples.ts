@@ -10,19 +10,19 @@
     </message>
     <message id="document.example.linear">
         <source>Damped Oscillation: Linear Axes</source>
-        <translation>Oscillation amortie : axes linéaires</translation>
+        <translation>Oscillation amortie : axes linéaires</translation>
     </message>
     <message id="document.example.logarithmic">
         <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>Croissance d’une culture : axe logarithmique</translation>
+        <translation>Croissance d’une culture : axe logarithmique</translation>
     </message>
     <message id="document.example.quadrangle">
         <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>Graphique de biais : axes en quadrilatère</translation>
+        <translation>Graphique de biais : axes en quadrilatère</translation>
     </message>
     <message id="document.example.polar">
         <source>Cardioid: Polar Axes</source>
-        <translation>Cardioïde : axes polaires</translation>
+        <translation>Cardioïde : axes polaires</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

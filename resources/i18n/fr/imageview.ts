@@ -76,12 +76,12 @@
     <message id="imageview.pasted.damaged">
         <source>The picture from the other program is damaged or incomplete. Copy or drag it once more, or save it to a file there and open that file.</source>
         <extracomment>A picture was pasted or dropped as data, not as a file.</extracomment>
-        <translation>L’image de l’autre programme est endommagée ou incomplète. Copiez-la ou faites-la glisser à nouveau, ou enregistrez-la là-bas dans un fichier et ouvrez ce fichier.</translation>
+        <translation>L’image de l’autre programme est endommagée ou incomplète. Copiez-la ou faites-la glisser à nouveau, ou enregistrez-la dans un fichier depuis ce programme et ouvrez ce fichier.</translation>
     </message>
     <message id="imageview.pasted.not-a-picture">
         <source>What the other program handed over cannot be read as a picture. Save it there as a PNG file and open that file.</source>
         <extracomment>Something was pasted or dropped as picture data, not as a file.</extracomment>
-        <translation>Ce que l’autre programme a transmis ne peut pas être lu comme image. Enregistrez-le là-bas en PNG et ouvrez ce fichier.</translation>
+        <translation>Ce que l’autre programme a transmis ne peut pas être lu comme image. Depuis ce programme, enregistrez-le en PNG, puis ouvrez ce fichier.</translation>
     </message>
     <message id="imageview.pasted.too-large">
         <source>The picture from the other program needs more memory than is free (%2 × %3 pixels). Close other programs, or copy it with fewer pixels.</source>

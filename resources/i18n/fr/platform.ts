@@ -92,7 +92,7 @@
     </message>
     <message id="platform.file.readOnly">
         <source>The file is protected from changes. Save under another name, or allow changes to it.</source>
-        <translation>Le fichier est protégé contre les modifications. Enregistrez sous un autre nom, ou autorisez-y les modifications.</translation>
+        <translation>Le fichier est protégé contre les modifications. Enregistrez sous un autre nom, ou autorisez les modifications.</translation>
     </message>
     <message id="platform.file.folderReadOnly">
         <source>You may not write into this folder. Save to another one.</source>

@@ -131,7 +131,7 @@
     <message id="prefs.pdf.scale.tip">
         <source>How large a PDF page becomes as a picture: a larger scale shows finer detail and needs more memory</source>
         <extracomment>Tool tip of the field.</extracomment>
-        <translation>La taille qu’a une page PDF comme image : une plus grande échelle montre plus de détails et demande plus de mémoire</translation>
+        <translation>La taille d’une page PDF une fois devenue image : une plus grande échelle montre plus de détails et demande plus de mémoire</translation>
     </message>
     <message id="prefs.pdf.scale.name">
         <source>PDF reading scale</source>

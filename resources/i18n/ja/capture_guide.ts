@@ -66,7 +66,7 @@
     <message id="capture.table.columnTip">
         <source>Series %d: click to select it, Shift-click to select up to here, Ctrl-click to add it</source>
         <extracomment>Tooltip of a column title; %d is the number of the series.</extracomment>
-        <translation>系列 %d：クリックで選択、Shift+クリックでここまで選択、Ctrl+クリックで追加</translation>
+        <translation>系列 %d: クリックで選択、Shift+クリックでここまで選択、Ctrl+クリックで追加</translation>
     </message>
     <message id="capture.table.selectAllTip">
         <source>Select all series that hold points</source>

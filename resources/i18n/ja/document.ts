@@ -101,7 +101,7 @@
     </message>
     <message id="document.axes.logx.tip">
         <source>The X axis is logarithmic (base 10)</source>
-        <translation>X 軸は対数軸（底は 10）</translation>
+        <translation>X 軸は対数軸 (底は 10)</translation>
     </message>
     <message id="document.axes.logy">
         <source>&amp;Logarithmic</source>
@@ -109,7 +109,7 @@
     </message>
     <message id="document.axes.logy.tip">
         <source>The Y axis, or the radius, is logarithmic (base 10)</source>
-        <translation>Y 軸または半径は対数（底は 10）</translation>
+        <translation>Y 軸または半径は対数 (底は 10)</translation>
     </message>
     <message id="document.axes.theta">
         <source>Angle</source>
@@ -659,7 +659,7 @@
         <source>Turns the picture of a chart into numbers.
 Version %1. Free software under the GNU General Public License, version 3 or later.</source>
         <translation>グラフの画像を数値に変えます。
-バージョン %1。GNU 一般公衆利用許諾書（バージョン 3 以降）に基づく自由ソフトウェアです。</translation>
+バージョン %1。GNU 一般公衆利用許諾書 (バージョン 3 以降) に基づく自由ソフトウェアです。</translation>
     </message>
     <message id="document.title.untitled">
         <source>Untitled</source>

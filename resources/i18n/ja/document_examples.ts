@@ -6,7 +6,7 @@
     <message id="document.command.examples">
         <source>&amp;Examples</source>
         <extracomment>The submenu of the Help menu with documents to try.</extracomment>
-        <translation>例(&amp;E)</translation>
+        <translation>サンプル(&amp;E)</translation>
     </message>
     <message id="document.example.linear">
         <source>Damped Oscillation: Linear Axes</source>
@@ -26,7 +26,7 @@
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>
-        <translation>例を試す(&amp;T)…</translation>
+        <translation>サンプルを試す(&amp;T)…</translation>
     </message>
     <message id="document.empty.example.tip">
         <source>Opens a copy of a chart that has been digitized already</source>

@@ -14,17 +14,17 @@
     <message id="document.damage.tooLarge">
         <source>Something in the file (%1) is far larger than any document has it.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
-        <translation>ファイルの中の一部（%1）が、通常のドキュメントではあり得ない大きさです。</translation>
+        <translation>ファイルの中の一部 (%1) が、通常のドキュメントではあり得ない大きさです。</translation>
     </message>
     <message id="document.damage.repeatedKey">
         <source>Something in the file (%1) is there twice.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
-        <translation>ファイルの中の一部（%1）が二重になっています。</translation>
+        <translation>ファイルの中の一部 (%1) が二重になっています。</translation>
     </message>
     <message id="document.damage.badValue">
         <source>Something in the file (%1) is damaged.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
-        <translation>ファイルの中の一部（%1）が壊れています。</translation>
+        <translation>ファイルの中の一部 (%1) が壊れています。</translation>
     </message>
     <message id="document.damage.trailing">
         <source>Something that does not belong to the document follows its end.</source>
@@ -41,7 +41,7 @@
     <message id="document.damage.unreadable">
         <source>Something in the file (%1) cannot be read.</source>
         <extracomment>%1 is what is damaged: "the picture", "the axes" …</extracomment>
-        <translation>ファイルの中の一部（%1）を読み取れません。</translation>
+        <translation>ファイルの中の一部 (%1) を読み取れません。</translation>
     </message>
     <message id="document.part.picture">
         <source>the picture</source>
@@ -78,7 +78,7 @@
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>
         <extracomment>%1 is the name of a file.</extracomment>
-        <translation>「%1」を置き換えますか?</translation>
+        <translation>「%1」を置き換えますか？</translation>
     </message>
     <message id="document.save.existsText">
         <source>A document of that name is already there, and this one does not come from it.</source>
@@ -115,7 +115,7 @@ Your work is still open here. What was in the file before is unchanged.</source>
     <message id="document.close.title">
         <source>Save the changes to “%1”?</source>
         <extracomment>%1 is the name of a file.</extracomment>
-        <translation>「%1」への変更を保存しますか?</translation>
+        <translation>「%1」への変更を保存しますか？</translation>
     </message>
     <message id="document.close.text">
         <source>If you do not save, the changes are lost.</source>
@@ -132,7 +132,7 @@ Your work is still open here. What was in the file before is unchanged.</source>
     <message id="document.revert.title">
         <source>Go back to “%1” as it was saved?</source>
         <extracomment>%1 is the name of a file.</extracomment>
-        <translation>「%1」を保存時の状態に戻しますか?</translation>
+        <translation>「%1」を保存時の状態に戻しますか？</translation>
     </message>
     <message id="document.revert.text">
         <source>Everything that was changed since then is lost, and cannot be undone.</source>
@@ -210,7 +210,7 @@ You can open what is left of it as a new document. The file itself stays as it i
     </message>
     <message id="document.recovery.title">
         <source>Bring back your unsaved work?</source>
-        <translation>保存されていない作業を復元しますか?</translation>
+        <translation>保存されていない作業を復元しますか？</translation>
     </message>
     <message id="document.recovery.text">
         <source>Curvegrab X ended before these documents were saved:

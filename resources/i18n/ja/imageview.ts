@@ -16,7 +16,7 @@
     <message id="Trimming">
         <source>Trim the picture?</source>
         <extracomment>Title of the question after a rectangle was dragged to trim the picture to.</extracomment>
-        <translation>画像をトリミングしますか?</translation>
+        <translation>画像をトリミングしますか？</translation>
     </message>
     <message id="TrimmingMsg">
         <source>Everything outside the dashed rectangle is cut off, and the axes go back to their first places. This cannot be undone; the picture file stays as it is.</source>

@@ -36,7 +36,7 @@
     <message id="platform.files.overwrite">
         <source>“%1” already exists. Replace it?</source>
         <extracomment>Question before a file is overwritten; %1 is its name.</extracomment>
-        <translation>「%1」はすでにあります。置き換えますか?</translation>
+        <translation>「%1」はすでにあります。置き換えますか？</translation>
     </message>
     <message id="platform.files.overwriteHint">
         <source>Replacing it overwrites what it holds now. Cancel to choose another name.</source>

@@ -206,7 +206,7 @@
     <message id="prefs.markers.size.tip">
         <source>Size of the markers, 3 to 15 points</source>
         <extracomment>Tool tip.</extracomment>
-        <translation>マーカーの大きさ（3 ～ 15 ポイント）</translation>
+        <translation>マーカーの大きさ (3 ～ 15 ポイント)</translation>
     </message>
     <message id="prefs.series.1.size">
         <source>Marker size of series 1</source>

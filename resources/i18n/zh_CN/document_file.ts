@@ -9,7 +9,7 @@
     </message>
     <message id="document.damage.endsEarly">
         <source>The file ends too early: something is missing at its end.</source>
-        <translation>文件提前结束：末尾缺少内容。</translation>
+        <translation>文件不完整：末尾缺少内容。</translation>
     </message>
     <message id="document.damage.tooLarge">
         <source>Something in the file (%1) is far larger than any document has it.</source>
@@ -217,7 +217,7 @@ You can open what is left of it as a new document. The file itself stays as it i
 %1
 Their changes were kept.</source>
         <extracomment>The names of the documents, one a line</extracomment>
-        <translation>Curvegrab X 在保存以下文档之前已结束：
+        <translation>Curvegrab X 在以下文档保存之前就已结束：
 %1
 其中的更改已保留。</translation>
     </message>
