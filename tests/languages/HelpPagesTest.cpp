@@ -2,7 +2,7 @@
 #include "helpbook/HelpBook.h"
 #include "languages/CatalogueFile.h"
 
-#include <QDir>
+#include <QMap>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -17,6 +17,69 @@ std::string capturesOf(const char *pattern, const QString &text)
         captures += match.captured(1);
     captures.sort();
     return captures.join(u'\n').toStdString();
+}
+
+/// The names that a language has for keys, each with the English one.
+QMap<QString, QString> keyNames(const QString &language)
+{
+    static const QMap<QString, QMap<QString, QString>> names{
+        {"de",
+         {{"Strg", "Ctrl"},
+          {"Umschalt", "Shift"},
+          {"Eingabetaste", "Return"},
+          {"Leertaste", "Space"}}},
+        {"fr", {{"Maj", "Shift"}, {"Entrée", "Return"}, {"Espace", "Space"}}},
+        {"es", {{"Mayús", "Shift"}, {"Intro", "Return"}, {"Espacio", "Space"}, {"Súper", "Super"}}},
+        {"ja", {{"Enter", "Return"}, {"スペース", "Space"}}},
+        {"zh_CN", {{"回车", "Return"}, {"空格", "Space"}}},
+    };
+    return names.value(language);
+}
+
+/// What stands on the keys that a page shows, in English.
+std::string keysOf(const QString &language, const QString &page)
+{
+    const QMap<QString, QString> names = keyNames(language);
+    const QRegularExpression key(QStringLiteral("<kbd>([^<]*)</kbd>"));
+    QStringList keys;
+    for (const QRegularExpressionMatch &match : key.globalMatch(page)) {
+        QStringList parts = match.captured(1).split(u'+');
+        for (QString &part : parts)
+            part = names.value(part, part);
+        keys += parts.join(u'+');
+    }
+    keys.sort();
+    return keys.join(u'\n').toStdString();
+}
+
+/// The texts of the menus and their commands as a reader sees them, each with its key.
+QMap<QString, QString> menuTexts(const QString &language)
+{
+    static const QRegularExpression marks(QStringLiteral("\\(&.\\)|&|…"));
+    QMap<QString, QString> texts;
+    for (const CatalogueEntry &entry : cataloguefiles::entries(language))
+        if (entry.id.startsWith(u"document.command.") || entry.id.startsWith(u"document.menu."))
+            texts.insert(QString(entry.translations.value(0)).remove(marks), entry.id);
+    return texts;
+}
+
+/// The keys of the menus and commands that a page sends its reader to: "<b>File ▸ Open</b>".
+/// A name that no menu has is reported.
+std::string menuPathsOf(const QString &language, const QString &page)
+{
+    const QMap<QString, QString> texts = menuTexts(language);
+    const QRegularExpression path(QStringLiteral("<b>([^<]* ▸[^<]*)</b>"));
+    QStringList paths;
+    for (const QRegularExpressionMatch &match : path.globalMatch(page)) {
+        QStringList steps = match.captured(1).simplified().split(QStringLiteral(" ▸ "));
+        for (QString &step : steps) {
+            EXPECT_TRUE(texts.contains(step)) << "no menu has " << qPrintable(step);
+            step = texts.value(step);
+        }
+        paths += steps.join(QStringLiteral(" ▸ "));
+    }
+    paths.sort();
+    return paths.join(u'\n').toStdString();
 }
 
 class HelpPages : public ::testing::TestWithParam<QString>
@@ -80,5 +143,19 @@ TEST_P(HelpPages, haveTheStructureOfTheEnglishOnes)
         EXPECT_EQ(capturesOf(structure, translated), capturesOf(structure, english));
         EXPECT_EQ(translated.count(QStringLiteral("<p>")),
                   translated.count(QStringLiteral("</p>")));
+    });
+}
+
+TEST_P(HelpPages, showTheKeysOfTheEnglishOnes)
+{
+    forEachPage([](const QString &translated, const QString &english) {
+        EXPECT_EQ(keysOf(GetParam(), translated), keysOf(QStringLiteral("en"), english));
+    });
+}
+
+TEST_P(HelpPages, nameTheMenusAsTheProgramDoes)
+{
+    forEachPage([](const QString &translated, const QString &english) {
+        EXPECT_EQ(menuPathsOf(GetParam(), translated), menuPathsOf(QStringLiteral("en"), english));
     });
 }
