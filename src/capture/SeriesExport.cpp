@@ -2,12 +2,11 @@
 
 #include "capture/DataSeries.h"
 #include "capture/SeriesText.h"
-#include "platform/FilePanels.h"
+#include "platform/DurableFile.h"
 #include "platform/Sheets.h"
 #include "platform/Texts.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -37,9 +36,21 @@ void SeriesExport::saveSeries(const IndexSet &series, const char *message)
         m_surroundings.dataSeries.makeStringForSeries(series, withTitle);
     if (!text)
         return;
-    m_surroundings.panels.chooseTextFileToSave(
-        texts::localized(message), proposedFileName(),
-        [this, held = *text](const QString &path) { savePanelDidEnd(path, held); });
+    const auto chosen = [this, held = *text,
+                         maker = m_surroundings.formats.maker(series, withTitle)](
+                            const QString &path, std::size_t kind) {
+        m_surroundings.formats.remember(kind, QFileInfo(path).absolutePath());
+        if (kind == 0)
+            savePanelDidEnd(path, held);
+        else if (const std::optional<QByteArray> content = maker(kind))
+            write(path, *content);
+        else
+            tellFailure(path, m_surroundings.formats.reasonOfNothing());
+    };
+    m_surroundings.panels.chooseFileToSave(
+        {texts::localized(message), proposedFileName(), m_surroundings.formats.offered(),
+         m_surroundings.formats.lastChosen(), m_surroundings.formats.lastFolder()},
+        chosen);
 }
 
 QString SeriesExport::proposedFileName() const
@@ -47,32 +58,22 @@ QString SeriesExport::proposedFileName() const
     const QString name = m_displayName();
     const auto point = name.lastIndexOf(QLatin1Char('.'));
     // A point in front hides a file; it begins no extension.
-    return (point > 0 ? name.left(point) : name) + QStringLiteral(".txt");
+    return point > 0 ? name.left(point) : name;
 }
 
 void SeriesExport::savePanelDidEnd(const QString &path, const QString &text)
 {
-    const QByteArray content = seriestext::lossyAscii(text);
-    QSaveFile file(path);
-    // Flushed by hand: commit() does not notice when the last buffered bytes find no room.
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-        file.commit())
-        return;
-    const QString title = texts::localized("capture.export.failed").arg(QFileInfo(path).fileName());
-    m_surroundings.sheets.present(
-        {title, reasonOfFailure(path, file.error()), texts::localized("OK"), {}}, {});
+    write(path, seriestext::lossyAscii(text));
 }
 
-QString SeriesExport::reasonOfFailure(const QString &path, QFileDevice::FileError error)
+void SeriesExport::write(const QString &path, const QByteArray &content)
 {
-    const QFileInfo file(path);
-    const QFileInfo folder(file.absolutePath());
-    if (!folder.isDir())
-        return texts::localized("capture.export.no-folder").arg(folder.fileName());
-    if (file.isDir())
-        return texts::localized("capture.export.is-folder");
-    if (error == QFileDevice::PermissionsError || !folder.isWritable() ||
-        (file.exists() && !file.isWritable()))
-        return texts::localized("capture.export.not-allowed");
-    return texts::localized("capture.export.not-written");
+    if (const std::optional<QString> reason = durablefile::write(path, content))
+        tellFailure(path, *reason);
+}
+
+void SeriesExport::tellFailure(const QString &path, const QString &reason)
+{
+    const QString title = texts::localized("capture.export.failed").arg(QFileInfo(path).fileName());
+    m_surroundings.sheets.present({title, reason, texts::localized("OK"), {}}, {});
 }

@@ -2,6 +2,7 @@
 
 #include "document/DocumentFile.h"
 #include "document/DocumentServices.h"
+#include "document/ExportChoices.h"
 #include "document/RecentFiles.h"
 #include "document/RecoveryStore.h"
 
@@ -67,6 +68,7 @@ public:
     [[nodiscard]] QString examplesFolder() const override;
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
+    [[nodiscard]] ExportChoices &exportChoices() override { return m_exportChoices; }
     [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
@@ -108,6 +110,7 @@ private:
     CurvegrabPrefs &m_prefs;
     std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
     RecentFiles m_recentFiles;
+    ExportChoices m_exportChoices;
     RecoveryStore m_recovery;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;

@@ -1,6 +1,7 @@
 #include "document/DocumentMenus.h"
 
 #include "document/ExamplesMenu.h"
+#include "document/ExportDigitsMenu.h"
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
 #include "document/RecentFilesMenu.h"
@@ -110,6 +111,7 @@ void DocumentMenus::addFileMenu()
                menurules::SaveSelection,
                {keys("Ctrl+Shift+E")},
                &MyDocument::saveSelectionAs});
+    new ExportDigitsMenu(m_document.exportChoices(), menu);
     menu->addSeparator();
     add(menu,
         {"terminate", "document.command.quit", noRule, {keys("Ctrl+Q")}, &MyDocument::terminate});

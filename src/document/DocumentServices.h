@@ -14,6 +14,7 @@
 
 class Clipboard;
 class CurvegrabPrefs;
+class ExportChoices;
 class HelpViewer;
 class MyDocument;
 class NotificationCentre;
@@ -59,6 +60,7 @@ public:
     /// The documents whose windows are open, oldest first.
     [[nodiscard]] virtual std::vector<MyDocument *> openDocuments() const = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
+    [[nodiscard]] virtual ExportChoices &exportChoices() = 0;
     /// Where unsaved changes are kept safe from a crash.
     [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;
     virtual void terminate() = 0;

@@ -10,6 +10,7 @@
 #include "document/DocumentStatus.h"
 #include "document/DocumentWindow.h"
 #include "document/ExamplesMenu.h"
+#include "document/ExportFormats.h"
 #include "document/RecentFiles.h"
 #include "document/ToolPalette.h"
 #include "document/WindowFrame.h"
@@ -90,8 +91,10 @@ void MyDocument::makeComponents()
         CursorGuideOutlets{ui.autoXModePopUp, ui.initialXTextField, ui.stepXTextField,
                            ui.currentXTextField, ui.currentYTextField, ui.lockXCheck,
                            ui.lockYCheck});
+    m_exportFormats = std::make_unique<ExportFormats>(*this, m_services.exportChoices());
     m_seriesExport = std::make_unique<SeriesExport>(
-        SeriesExportSurroundings{*m_dataSeries, *m_dialogs.panels, *m_dialogs.sheets, capture},
+        SeriesExportSurroundings{*m_dataSeries, *m_dialogs.panels, *m_dialogs.sheets, capture,
+                                 *m_exportFormats},
         [this] { return displayName(); });
 }
 
@@ -363,6 +366,8 @@ void MyDocument::openDocument()
 void MyDocument::openFiles(const QStringList &paths) { m_services.openFiles(paths); }
 
 QStringList MyDocument::recentFiles() const { return m_services.recentFiles().paths(); }
+
+ExportChoices &MyDocument::exportChoices() const { return m_services.exportChoices(); }
 
 void MyDocument::openCopy(const QString &path) { m_services.openCopy(path); }
 

@@ -34,6 +34,8 @@ class DocumentRecovery;
 class DocumentSaving;
 class DocumentStatus;
 class DocumentWindow;
+class ExportChoices;
+class ExportFormats;
 class GraphImageView;
 class ImageViewAdapter;
 class SeriesExport;
@@ -121,6 +123,8 @@ public:
     void closeThen(std::function<void()> closed);
     void raise();
     [[nodiscard]] QStringList recentFiles() const;
+    /// How data were exported last.
+    [[nodiscard]] ExportChoices &exportChoices() const;
     /// The folder with the documents that come with the program.
     [[nodiscard]] QString examplesFolder() const;
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const;
@@ -311,6 +315,7 @@ private:
     std::unique_ptr<CurrentAxes> m_currentAxes;
     std::unique_ptr<DataSeries> m_dataSeries;
     std::unique_ptr<CursorGuide> m_cursorGuide;
+    std::unique_ptr<ExportFormats> m_exportFormats;
     std::unique_ptr<SeriesExport> m_seriesExport;
     std::unique_ptr<DocumentSaving> m_saving;
     std::unique_ptr<DocumentRecovery> m_recovery;

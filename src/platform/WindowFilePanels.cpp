@@ -12,9 +12,66 @@
 
 namespace {
 
+QString filter(const QString &name, const QString &patterns)
+{
+    return name + QStringLiteral(" (") + patterns + QLatin1Char(')');
+}
+
 QString filter(const char *nameKey, const QString &patterns)
 {
-    return texts::localized(nameKey) + QStringLiteral(" (") + patterns + QLatin1Char(')');
+    return filter(texts::localized(nameKey), patterns);
+}
+
+QStringList filters(const std::vector<FileKind> &kinds)
+{
+    QStringList filters;
+    for (const FileKind &kind : kinds)
+        filters += filter(kind.name, QLatin1Char('*') + kind.suffix);
+    return filters;
+}
+
+bool endsIn(const QString &path, const FileKind &kind)
+{
+    return path.endsWith(kind.suffix, Qt::CaseInsensitive);
+}
+
+/// The kind that the user means: the one of a suffix that was typed, otherwise the one of the
+/// filter. The suffix of the proposed name was not typed.
+std::size_t kindOf(const FileToSave &file, const QString &path, qsizetype chosenFilter)
+{
+    for (std::size_t i = 0; i < file.kinds.size(); ++i)
+        if (i != file.kind && endsIn(path, file.kinds[i]))
+            return i;
+    return chosenFilter < 0 ? file.kind : static_cast<std::size_t>(chosenFilter);
+}
+
+QString withoutSuffix(const QString &path, const FileKind &kind)
+{
+    return endsIn(path, kind) ? path.chopped(kind.suffix.size()) : path;
+}
+
+/// The path with the suffix of its kind in place of the proposed one.
+QString completed(const FileToSave &file, const QString &path, std::size_t kind)
+{
+    if (endsIn(path, file.kinds[kind]))
+        return path;
+    return withoutSuffix(path, file.kinds[file.kind]) + file.kinds[kind].suffix;
+}
+
+/// Another filter gives the name in the panel its suffix.
+void renameWithFilter(QFileDialog &panel, const std::vector<FileKind> &kinds)
+{
+    const auto chosen = panel.nameFilters().indexOf(panel.selectedNameFilter());
+    const QStringList paths = panel.selectedFiles();
+    if (chosen < 0 || paths.isEmpty())
+        return;
+    const QString name = QFileInfo(paths.first()).fileName();
+    for (const FileKind &kind : kinds)
+        if (endsIn(name, kind)) {
+            panel.selectFile(withoutSuffix(name, kind) +
+                             kinds[static_cast<std::size_t>(chosen)].suffix);
+            return;
+        }
 }
 
 QString patternsOf(const QStringList &suffixes)
@@ -25,16 +82,18 @@ QString patternsOf(const QStringList &suffixes)
     return patterns.join(QLatin1Char(' '));
 }
 
-QDialog *makeSavePanel(QWidget *window, const QString &message, const QString &folder,
-                       const QString &name, const QString &nameFilter)
+QDialog *makeSavePanel(QWidget *window, const FileToSave &file, const QString &folder)
 {
-    auto *const panel = new QFileDialog(window, message, folder);
+    auto *const panel = new QFileDialog(window, file.message, folder);
     panel->setAcceptMode(QFileDialog::AcceptSave);
     panel->setFileMode(QFileDialog::AnyFile);
-    panel->setNameFilter(nameFilter);
+    panel->setNameFilters(filters(file.kinds));
+    panel->selectNameFilter(panel->nameFilters().at(static_cast<qsizetype>(file.kind)));
     // The name is not complete yet when the panel would ask, so the question comes later.
     panel->setOption(QFileDialog::DontConfirmOverwrite);
-    panel->selectFile(name);
+    panel->selectFile(completed(file, file.proposedName, file.kind));
+    QObject::connect(panel, &QFileDialog::filterSelected, panel,
+                     [panel, kinds = file.kinds] { renameWithFilter(*panel, kinds); });
     return panel;
 }
 
@@ -67,16 +126,27 @@ WindowFilePanels::WindowFilePanels(WindowSheets &sheets)
     : m_sheets(sheets)
 {}
 
-QString WindowFilePanels::Saving::completed(const QString &path) const
+void WindowFilePanels::chooseFileToSave(const FileToSave &file, FileChosen chosen)
 {
-    return path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
-}
-
-void WindowFilePanels::chooseTextFileToSave(const QString &message, const QString &proposedName,
-                                            std::function<void(const QString &path)> chosen)
-{
-    chooseFileToSave({message, "platform.files.texts", QStringLiteral(".txt")}, proposedName,
-                     chosen);
+    m_sheets.presentDialog(
+        [this, file](QWidget *window) {
+            return makeSavePanel(window, file,
+                                 file.folder.isEmpty() ? folderFor(*window) : file.folder);
+        },
+        [this, file, chosen = std::move(chosen)](const QDialog &dialog, int result) {
+            const QString path = chosenPath(dialog, result);
+            if (path.isEmpty())
+                return;
+            remember(path);
+            const auto &panel = static_cast<const QFileDialog &>(dialog);
+            const std::size_t kind =
+                kindOf(file, path, panel.nameFilters().indexOf(panel.selectedNameFilter()));
+            const QString whole = completed(file, path, kind);
+            FileToSave next = file;
+            next.kind = kind;
+            next.folder.clear();
+            save(next, whole, chosen);
+        });
 }
 
 void WindowFilePanels::chooseDocumentToSave(const QString &proposed,
@@ -85,39 +155,29 @@ void WindowFilePanels::chooseDocumentToSave(const QString &proposed,
     const QFileInfo file(proposed);
     if (file.isAbsolute() && file.absoluteDir().exists())
         remember(proposed);
-    chooseFileToSave({texts::localized("platform.files.saveDocument"), "platform.files.documents",
-                      QStringLiteral(".crvgrab")},
-                     file.fileName(), chosen);
+    chooseFileToSave(
+        {texts::localized("platform.files.saveDocument"),
+         file.fileName(),
+         {{texts::localized("platform.files.documents"), QStringLiteral(".crvgrab")}},
+         0,
+         {}},
+        [chosen = std::move(chosen)](const QString &path, std::size_t /*kind*/) { chosen(path); });
 }
 
-void WindowFilePanels::chooseFileToSave(const Saving &saving, const QString &proposed,
-                                        const Chosen &chosen)
-{
-    m_sheets.presentDialog(
-        [this, saving, proposed](QWidget *window) {
-            return makeSavePanel(window, saving.message, folderFor(*window), proposed,
-                                 filter(saving.filterKey, QLatin1Char('*') + saving.suffix));
-        },
-        [this, saving, chosen](const QDialog &panel, int result) {
-            const QString path = chosenPath(panel, result);
-            if (path.isEmpty())
-                return;
-            remember(path);
-            save(saving, saving.completed(path), chosen);
-        });
-}
-
-void WindowFilePanels::save(const Saving &saving, const QString &path, const Chosen &chosen)
+void WindowFilePanels::save(const FileToSave &file, const QString &path, const FileChosen &chosen)
 {
     if (!QFileInfo::exists(path)) {
-        chosen(path);
+        chosen(path, file.kind);
         return;
     }
-    m_sheets.present(overwriteQuestion(path), [this, saving, path, chosen](SheetAnswer answer) {
-        if (answer == SheetAnswer::Default)
-            chosen(path);
-        else
-            chooseFileToSave(saving, QFileInfo(path).fileName(), chosen);
+    m_sheets.present(overwriteQuestion(path), [this, file, path, chosen](SheetAnswer answer) {
+        if (answer == SheetAnswer::Default) {
+            chosen(path, file.kind);
+            return;
+        }
+        FileToSave again = file;
+        again.proposedName = QFileInfo(path).fileName();
+        chooseFileToSave(again, chosen);
     });
 }
 

@@ -14,8 +14,7 @@ public:
     /// `sheets` outlives the panels, and the panels everything that is asked through them.
     explicit WindowFilePanels(WindowSheets &sheets);
 
-    void chooseTextFileToSave(const QString &message, const QString &proposedName,
-                              std::function<void(const QString &path)> chosen) override;
+    void chooseFileToSave(const FileToSave &file, FileChosen chosen) override;
     void chooseDocumentToSave(const QString &proposed,
                               std::function<void(const QString &path)> chosen) override;
     void chooseFilesToOpen(const QStringList &suffixes,
@@ -24,19 +23,7 @@ public:
                              std::function<void(const QString &path)> chosen) override;
 
 private:
-    using Chosen = std::function<void(const QString &path)>;
-
-    /// How one kind of file is saved.
-    struct Saving
-    {
-        QString message;
-        const char *filterKey;
-        QString suffix; ///< with its point
-
-        [[nodiscard]] QString completed(const QString &path) const;
-    };
-    void chooseFileToSave(const Saving &saving, const QString &proposed, const Chosen &chosen);
-    void save(const Saving &saving, const QString &path, const Chosen &chosen);
+    void save(const FileToSave &file, const QString &path, const FileChosen &chosen);
     [[nodiscard]] QString folderFor(const QWidget &window) const;
     void remember(const QString &path);
 

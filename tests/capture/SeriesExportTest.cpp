@@ -54,6 +54,37 @@ void write(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
+/// Formats of the test's own: the text, and one that tells what it was made of.
+class TwoFormats final : public SeriesFormats
+{
+public:
+    [[nodiscard]] std::vector<FileKind> offered() const override
+    {
+        return {{QStringLiteral("Text"), QStringLiteral(".txt")},
+                {QStringLiteral("Other"), QStringLiteral(".other")}};
+    }
+    [[nodiscard]] std::size_t lastChosen() const override { return kind; }
+    [[nodiscard]] QString lastFolder() const override { return folder; }
+    void remember(std::size_t newKind, const QString &newFolder) override
+    {
+        kind = newKind;
+        folder = newFolder;
+    }
+    [[nodiscard]] Maker maker(const IndexSet &series, bool withTitle) const override
+    {
+        return [this, series, withTitle](std::size_t made) {
+            const QByteArray text = QByteArray::number(static_cast<int>(made)) + ':' +
+                                    QByteArray::number(static_cast<int>(series.size()));
+            return fails ? std::nullopt : std::optional(withTitle ? "titled " + text : text);
+        };
+    }
+    [[nodiscard]] QString reasonOfNothing() const override { return QStringLiteral("no reason"); }
+
+    std::size_t kind = 0;
+    QString folder;
+    bool fails = false;
+};
+
 } // namespace
 
 class SeriesExportFixture : public SeriesFixture
@@ -64,7 +95,8 @@ protected:
     QTemporaryDir folder;
     FakeFilePanels panels;
     QString displayName = QStringLiteral("Chart.crvgrab");
-    SeriesExport dataExport{{series, panels, document.messages, prefs},
+    TwoFormats formats;
+    SeriesExport dataExport{{series, panels, document.messages, prefs, formats},
                             [this] { return displayName; }};
 };
 
@@ -191,7 +223,7 @@ TEST_F(SeriesExportFixture, aMissingFolderIsToldWithTheFileAndTheReason)
     ASSERT_EQ(document.messages.shown.size(), 1U);
     const Sheet &sheet = document.messages.shown[0];
     EXPECT_TRUE(sheet.message.contains(QStringLiteral("data.txt")));
-    EXPECT_TRUE(sheet.informativeText.contains(QStringLiteral("gone")));
+    EXPECT_EQ(sheet.informativeText, texts::localized("platform.file.folderGone"));
     EXPECT_EQ(sheet.defaultButton, texts::localized("OK"));
     EXPECT_TRUE(sheet.alternateButton.isEmpty());
 }
@@ -202,7 +234,7 @@ TEST_F(SeriesExportFixture, aFolderInThePlaceOfTheFileIsTold)
     dataExport.savePanelDidEnd(path(QStringLiteral("taken.txt")), QStringLiteral("1\t2\n"));
     ASSERT_EQ(document.messages.shown.size(), 1U);
     EXPECT_EQ(document.messages.shown[0].informativeText,
-              texts::localized("capture.export.is-folder"));
+              texts::localized("platform.file.isFolder"));
 }
 
 TEST_F(SeriesExportFixture, aFullDiskIsToldAndLeavesTheOldFile)
@@ -216,21 +248,45 @@ TEST_F(SeriesExportFixture, aFullDiskIsToldAndLeavesTheOldFile)
     EXPECT_EQ(contentOf(file), QByteArray("old\n"));
     ASSERT_EQ(document.messages.shown.size(), 1U);
     EXPECT_EQ(document.messages.shown[0].informativeText,
-              texts::localized("capture.export.not-written"));
+              texts::localized("platform.file.tooLarge"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("kept.txt")});
 }
 
-TEST_F(SeriesExportFixture, aRefusedPermissionIsNamedAsTheReason)
+TEST_F(SeriesExportFixture, anotherFormatIsMadeOfTheSameSeries)
 {
-    EXPECT_EQ(SeriesExport::reasonOfFailure(path(QStringLiteral("data.txt")),
-                                            QFileDevice::PermissionsError),
-              texts::localized("capture.export.not-allowed"));
+    prefs.saveTitle = true;
+    fill({1, 4});
+    dataExport.saveDataAs();
+    panels.confirm(path(QStringLiteral("all.other")));
+    EXPECT_EQ(contentOf(path(QStringLiteral("all.other"))), QByteArray("titled 1:2"));
+}
+
+TEST_F(SeriesExportFixture, formatAndFolderAreThoseOfTheLastTime)
+{
+    fill({0});
+    dataExport.saveDataAs();
+    EXPECT_EQ(panels.file().kind, 0U);
+    EXPECT_TRUE(panels.file().folder.isEmpty());
+    panels.confirm(path(QStringLiteral("a.other")));
+    dataExport.saveDataAs();
+    EXPECT_EQ(panels.file().kind, 1U);
+    EXPECT_EQ(panels.file().folder, folder.path());
+    EXPECT_EQ(panels.proposedName(), QStringLiteral("Chart.other"));
+}
+
+TEST_F(SeriesExportFixture, aFormatThatCannotBeMadeIsToldAndWritesNothing)
+{
+    formats.fails = true;
+    fill({0});
+    dataExport.saveDataAs();
+    panels.confirm(path(QStringLiteral("a.other")));
+    ASSERT_EQ(document.messages.shown.size(), 1U);
+    EXPECT_EQ(document.messages.shown[0].informativeText, QStringLiteral("no reason"));
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.other"))));
 }
 
 TEST_F(SeriesExportFixture, everyTextOfTheExportIsWritten)
 {
-    for (const char *key : {"SaveAllMessage", "SaveSelectionMessage", "capture.export.failed",
-                            "capture.export.no-folder", "capture.export.is-folder",
-                            "capture.export.not-allowed", "capture.export.not-written"})
+    for (const char *key : {"SaveAllMessage", "SaveSelectionMessage", "capture.export.failed"})
         EXPECT_NE(texts::localized(key), QString::fromLatin1(key));
 }

@@ -2,6 +2,7 @@
 
 #include "document/DocumentServices.h"
 #include "document/DocumentWindow.h"
+#include "document/ExportChoices.h"
 #include "document/MyDocument.h"
 #include "document/RecentFiles.h"
 #include "document/RecoveryStore.h"
@@ -46,6 +47,7 @@ public:
     TestServices()
         : m_recovery(recoveryFolder())
         , m_recentFiles(m_folder.filePath(QStringLiteral("state.json")))
+        , m_exportChoices(m_folder.filePath(QStringLiteral("export.json")))
         , m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
         , m_prefs(m_defaults)
     {
@@ -87,6 +89,7 @@ public:
     QString examplesFolder() const override { return examples; }
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override { return {}; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
+    ExportChoices &exportChoices() override { return m_exportChoices; }
     RecoveryStore &recoveryStore() override { return m_recovery; }
     [[nodiscard]] QString recoveryFolder() const
     {
@@ -121,6 +124,7 @@ private:
     QTemporaryDir m_folder;
     RecoveryStore m_recovery;
     RecentFiles m_recentFiles;
+    ExportChoices m_exportChoices;
     UserDefaults m_defaults;
     CurvegrabPrefs m_prefs;
 };

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
@@ -43,10 +44,34 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
 
-    void askToSave()
+    void askToSave() { ask({{QStringLiteral("Text"), QStringLiteral(".txt")}}); }
+
+    void ask(const std::vector<FileKind> &kinds, const QString &folder = {})
     {
-        m_panels.chooseTextFileToSave(QStringLiteral("Save all series"), QStringLiteral("chart"),
-                                      [this](const QString &path) { m_chosen += path; });
+        m_panels.chooseFileToSave(
+            {QStringLiteral("Save all series"), QStringLiteral("chart"), kinds, 0, folder},
+            [this](const QString &path, std::size_t kind) {
+                m_chosen += path;
+                m_kind = kind;
+            });
+    }
+
+    /// Asks for a text or a table.
+    void askForTwoKinds()
+    {
+        ask({{QStringLiteral("Text"), QStringLiteral(".txt")},
+             {QStringLiteral("Table"), QStringLiteral(".csv")}});
+    }
+
+    /// Chooses a filter as the user does, by its place in the list.
+    void chooseFilter(int index) const
+    {
+        auto *const filters =
+            shown<QFileDialog>()->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
+        ASSERT_TRUE(filters);
+        filters->setCurrentIndex(index);
+        Q_EMIT filters->textActivated(filters->currentText());
+        Q_EMIT filters->activated(index);
     }
 
     /// Types `name` into the panel and confirms it.
@@ -84,6 +109,7 @@ protected:
     WindowSheets m_sheets{&m_window};
     WindowFilePanels m_panels{m_sheets};
     QStringList m_chosen;
+    std::size_t m_kind = 99;
 };
 
 } // namespace
@@ -96,7 +122,7 @@ TEST_F(WindowFilePanelsTest, theSavePanelShowsMessageAndNameWithoutBlocking)
     EXPECT_EQ(panel->windowTitle(), QStringLiteral("Save all series"));
     EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
     EXPECT_EQ(panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
-              QStringLiteral("chart"));
+              QStringLiteral("chart.txt"));
     EXPECT_EQ(m_chosen, QStringList());
 }
 
@@ -119,6 +145,32 @@ TEST_F(WindowFilePanelsTest, theSuffixCountsInAnyCase)
     askToSave();
     confirm(QStringLiteral("DATA.TXT"));
     EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("DATA.TXT"))}));
+}
+
+TEST_F(WindowFilePanelsTest, aTypedSuffixChoosesTheKindOfFile)
+{
+    askForTwoKinds();
+    confirm(QStringLiteral("data.csv"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.csv"))}));
+    EXPECT_EQ(m_kind, 1U);
+}
+
+TEST_F(WindowFilePanelsTest, anotherFilterGivesTheNameItsSuffix)
+{
+    askForTwoKinds();
+    chooseFilter(1);
+    auto *const panel = shown<QFileDialog>();
+    EXPECT_EQ(panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("chart.csv"));
+    confirm(QStringLiteral("data"));
+    EXPECT_EQ(m_chosen, QStringList({inFolder(QStringLiteral("data.csv"))}));
+    EXPECT_EQ(m_kind, 1U);
+}
+
+TEST_F(WindowFilePanelsTest, theSavePanelBeginsInTheFolderAskedFor)
+{
+    ask({{QStringLiteral("Text"), QStringLiteral(".txt")}}, m_folder.path());
+    EXPECT_EQ(shown<QFileDialog>()->directory().path(), m_folder.path());
 }
 
 TEST_F(WindowFilePanelsTest, cancellingThePanelChoosesNothing)

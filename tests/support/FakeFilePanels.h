@@ -9,12 +9,18 @@
 class FakeFilePanels final : public FilePanels
 {
 public:
-    void chooseTextFileToSave(const QString &message, const QString &proposedName,
-                              std::function<void(const QString &path)> chosen) override
+    void chooseFileToSave(const FileToSave &file, FileChosen chosen) override
     {
-        m_message = message;
-        m_proposedName = proposedName;
-        m_chosen = std::move(chosen);
+        m_file = file;
+        m_message = file.message;
+        m_proposedName = file.proposedName + file.kinds[file.kind].suffix;
+        m_chosen = [file, chosen = std::move(chosen)](const QString &path) {
+            std::size_t kind = file.kind;
+            for (std::size_t i = 0; i < file.kinds.size(); ++i)
+                if (path.endsWith(file.kinds[i].suffix))
+                    kind = i;
+            chosen(path, kind);
+        };
         ++m_saveCount;
     }
 
@@ -44,6 +50,8 @@ public:
 
     [[nodiscard]] bool isAsking() const { return m_chosen != nullptr; }
     [[nodiscard]] const QString &message() const { return m_message; }
+    /// What chooseFileToSave() asked for last.
+    [[nodiscard]] const FileToSave &file() const { return m_file; }
     [[nodiscard]] const QString &proposedName() const { return m_proposedName; }
     [[nodiscard]] const QStringList &suffixes() const { return m_suffixes; }
     [[nodiscard]] int saveCount() const { return m_saveCount; }
@@ -64,6 +72,7 @@ public:
 
 private:
     std::function<void(const QString &path)> m_chosen;
+    FileToSave m_file;
     QString m_message;
     QString m_proposedName;
     QStringList m_suffixes;

@@ -29,39 +29,19 @@
         <translation>Punkte löschen</translation>
     </message>
     <message id="SaveAllMessage">
-        <source>Save all series as tab-separated text</source>
+        <source>Save all series</source>
         <extracomment>What the save panel says when all series are saved.</extracomment>
-        <translation>Alle Datenreihen als Text mit Tabulatoren speichern</translation>
+        <translation>Alle Datenreihen speichern</translation>
     </message>
     <message id="SaveSelectionMessage">
-        <source>Save the selected series as tab-separated text</source>
+        <source>Save the selected series</source>
         <extracomment>What the save panel says when the series selected in the table are saved.</extracomment>
-        <translation>Die ausgewählten Datenreihen als Text mit Tabulatoren speichern</translation>
+        <translation>Die ausgewählten Datenreihen speichern</translation>
     </message>
     <message id="capture.export.failed">
         <source>“%1” could not be saved</source>
         <extracomment>Title of the message after a failed save; %1 is the file's name.</extracomment>
         <translation>„%1“ konnte nicht gespeichert werden</translation>
-    </message>
-    <message id="capture.export.no-folder">
-        <source>The folder “%1” does not exist any more. Choose another folder.</source>
-        <extracomment>Why a file was not saved; %1 is the folder's name.</extracomment>
-        <translation>Den Ordner „%1“ gibt es nicht mehr. Wählen Sie einen anderen Ordner.</translation>
-    </message>
-    <message id="capture.export.is-folder">
-        <source>There is a folder of this name. Choose another name.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>Ein Ordner hat schon diesen Namen. Wählen Sie einen anderen Namen.</translation>
-    </message>
-    <message id="capture.export.not-allowed">
-        <source>You are not allowed to write there. Choose another folder.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>Sie dürfen dort nicht schreiben. Wählen Sie einen anderen Ordner.</translation>
-    </message>
-    <message id="capture.export.not-written">
-        <source>The disk may be full or no longer connected. Make room or choose another folder, then save again.</source>
-        <extracomment>Why a file was not saved, when the reason is not known exactly.</extracomment>
-        <translation>Der Datenträger ist vielleicht voll oder nicht mehr verbunden. Schaffen Sie Platz oder wählen Sie einen anderen Ordner und speichern Sie erneut.</translation>
     </message>
 </context>
 </TS>

@@ -758,5 +758,35 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
         <extracomment>Why a file was not written.</extracomment>
         <translation>Die Arbeitsmappe ließ sich nicht anlegen. Ein Blatt fasst 1048576 Zeilen, und der Datenträger braucht etwas Platz für Zwischendateien.</translation>
     </message>
+    <message id="document.export.text">
+        <source>Tab-separated text</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Text mit Tabulatoren</translation>
+    </message>
+    <message id="document.export.csv">
+        <source>Comma-separated values</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Werte mit Kommas</translation>
+    </message>
+    <message id="document.export.json">
+        <source>JSON with axes</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>JSON mit Achsen</translation>
+    </message>
+    <message id="document.export.xlsx">
+        <source>Excel workbook</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Excel-Arbeitsmappe</translation>
+    </message>
+    <message id="document.command.exportDigits">
+        <source>Di&amp;gits of Exported Tables</source>
+        <extracomment>Title of a submenu of the File menu; the files are those of data, except for text.</extracomment>
+        <translation>Z&amp;iffern exportierter Tabellen</translation>
+    </message>
+    <message id="document.export.digitsAsNeeded">
+        <source>As Many as Needed</source>
+        <extracomment>First item of that submenu; the others are numbers.</extracomment>
+        <translation>So viele wie nötig</translation>
+    </message>
 </context>
 </TS>

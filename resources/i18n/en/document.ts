@@ -758,5 +758,35 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Why a file was not written.</extracomment>
         <translation>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</translation>
     </message>
+    <message id="document.export.text">
+        <source>Tab-separated text</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Tab-separated text</translation>
+    </message>
+    <message id="document.export.csv">
+        <source>Comma-separated values</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Comma-separated values</translation>
+    </message>
+    <message id="document.export.json">
+        <source>JSON with axes</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>JSON with axes</translation>
+    </message>
+    <message id="document.export.xlsx">
+        <source>Excel workbook</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Excel workbook</translation>
+    </message>
+    <message id="document.command.exportDigits">
+        <source>Di&amp;gits of Exported Tables</source>
+        <extracomment>Title of a submenu of the File menu; the files are those of data, except for text.</extracomment>
+        <translation>Di&amp;gits of Exported Tables</translation>
+    </message>
+    <message id="document.export.digitsAsNeeded">
+        <source>As Many as Needed</source>
+        <extracomment>First item of that submenu; the others are numbers.</extracomment>
+        <translation>As Many as Needed</translation>
+    </message>
 </context>
 </TS>

@@ -29,39 +29,19 @@
         <translation>Borrar datos de series</translation>
     </message>
     <message id="SaveAllMessage">
-        <source>Save all series as tab-separated text</source>
+        <source>Save all series</source>
         <extracomment>What the save panel says when all series are saved.</extracomment>
-        <translation>Guardar todas las series como texto separado por tabuladores</translation>
+        <translation>Guardar todas las series</translation>
     </message>
     <message id="SaveSelectionMessage">
-        <source>Save the selected series as tab-separated text</source>
+        <source>Save the selected series</source>
         <extracomment>What the save panel says when the series selected in the table are saved.</extracomment>
-        <translation>Guardar las series seleccionadas como texto separado por tabuladores</translation>
+        <translation>Guardar las series seleccionadas</translation>
     </message>
     <message id="capture.export.failed">
         <source>“%1” could not be saved</source>
         <extracomment>Title of the message after a failed save; %1 is the file's name.</extracomment>
         <translation>No se ha podido guardar «%1»</translation>
-    </message>
-    <message id="capture.export.no-folder">
-        <source>The folder “%1” does not exist any more. Choose another folder.</source>
-        <extracomment>Why a file was not saved; %1 is the folder's name.</extracomment>
-        <translation>La carpeta «%1» ya no existe. Elija otra carpeta.</translation>
-    </message>
-    <message id="capture.export.is-folder">
-        <source>There is a folder of this name. Choose another name.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>Hay una carpeta con este nombre. Elija otro nombre.</translation>
-    </message>
-    <message id="capture.export.not-allowed">
-        <source>You are not allowed to write there. Choose another folder.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>No tiene permiso para escribir ahí. Elija otra carpeta.</translation>
-    </message>
-    <message id="capture.export.not-written">
-        <source>The disk may be full or no longer connected. Make room or choose another folder, then save again.</source>
-        <extracomment>Why a file was not saved, when the reason is not known exactly.</extracomment>
-        <translation>Puede que el disco esté lleno o ya no esté conectado. Libere espacio o elija otra carpeta y guarde de nuevo.</translation>
     </message>
 </context>
 </TS>

@@ -758,5 +758,35 @@ Versión %1. Software libre bajo la Licencia Pública General de GNU, versión 3
         <extracomment>Why a file was not written.</extracomment>
         <translation>No se pudo crear el libro. En una hoja caben 1048576 filas, y el disco necesita algo de espacio para archivos temporales.</translation>
     </message>
+    <message id="document.export.text">
+        <source>Tab-separated text</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Texto separado por tabuladores</translation>
+    </message>
+    <message id="document.export.csv">
+        <source>Comma-separated values</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Valores separados por comas</translation>
+    </message>
+    <message id="document.export.json">
+        <source>JSON with axes</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>JSON con los ejes</translation>
+    </message>
+    <message id="document.export.xlsx">
+        <source>Excel workbook</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Libro de Excel</translation>
+    </message>
+    <message id="document.command.exportDigits">
+        <source>Di&amp;gits of Exported Tables</source>
+        <extracomment>Title of a submenu of the File menu; the files are those of data, except for text.</extracomment>
+        <translation>Cifras de las &amp;tablas exportadas</translation>
+    </message>
+    <message id="document.export.digitsAsNeeded">
+        <source>As Many as Needed</source>
+        <extracomment>First item of that submenu; the others are numbers.</extracomment>
+        <translation>Tantas como hagan falta</translation>
+    </message>
 </context>
 </TS>

@@ -758,5 +758,35 @@ Version %1. Logiciel libre sous licence publique générale GNU, version 3 ou ul
         <extracomment>Why a file was not written.</extracomment>
         <translation>Le classeur n’a pas pu être créé. Une feuille contient au plus 1048576 lignes, et le disque a besoin d’un peu de place pour des fichiers temporaires.</translation>
     </message>
+    <message id="document.export.text">
+        <source>Tab-separated text</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Texte séparé par des tabulations</translation>
+    </message>
+    <message id="document.export.csv">
+        <source>Comma-separated values</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Valeurs séparées par des virgules</translation>
+    </message>
+    <message id="document.export.json">
+        <source>JSON with axes</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>JSON avec les axes</translation>
+    </message>
+    <message id="document.export.xlsx">
+        <source>Excel workbook</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Classeur Excel</translation>
+    </message>
+    <message id="document.command.exportDigits">
+        <source>Di&amp;gits of Exported Tables</source>
+        <extracomment>Title of a submenu of the File menu; the files are those of data, except for text.</extracomment>
+        <translation>C&amp;hiffres des tableaux exportés</translation>
+    </message>
+    <message id="document.export.digitsAsNeeded">
+        <source>As Many as Needed</source>
+        <extracomment>First item of that submenu; the others are numbers.</extracomment>
+        <translation>Autant que nécessaire</translation>
+    </message>
 </context>
 </TS>

@@ -758,5 +758,35 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Why a file was not written.</extracomment>
         <translation>ブックを作成できませんでした。1 枚のシートに入るのは 1048576 行までです。また、ディスクには一時ファイルのための空きが必要です。</translation>
     </message>
+    <message id="document.export.text">
+        <source>Tab-separated text</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>タブ区切りテキスト</translation>
+    </message>
+    <message id="document.export.csv">
+        <source>Comma-separated values</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>コンマ区切りの値</translation>
+    </message>
+    <message id="document.export.json">
+        <source>JSON with axes</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>JSON (軸を含む)</translation>
+    </message>
+    <message id="document.export.xlsx">
+        <source>Excel workbook</source>
+        <extracomment>Kind of file in the save panel.</extracomment>
+        <translation>Excel ブック</translation>
+    </message>
+    <message id="document.command.exportDigits">
+        <source>Di&amp;gits of Exported Tables</source>
+        <extracomment>Title of a submenu of the File menu; the files are those of data, except for text.</extracomment>
+        <translation>書き出す表の桁数(&amp;G)</translation>
+    </message>
+    <message id="document.export.digitsAsNeeded">
+        <source>As Many as Needed</source>
+        <extracomment>First item of that submenu; the others are numbers.</extracomment>
+        <translation>必要なだけ</translation>
+    </message>
 </context>
 </TS>

@@ -29,39 +29,19 @@
         <translation>删除系列数据</translation>
     </message>
     <message id="SaveAllMessage">
-        <source>Save all series as tab-separated text</source>
+        <source>Save all series</source>
         <extracomment>What the save panel says when all series are saved.</extracomment>
-        <translation>将所有系列保存为制表符分隔的文本</translation>
+        <translation>保存所有系列</translation>
     </message>
     <message id="SaveSelectionMessage">
-        <source>Save the selected series as tab-separated text</source>
+        <source>Save the selected series</source>
         <extracomment>What the save panel says when the series selected in the table are saved.</extracomment>
-        <translation>将选中的系列保存为制表符分隔的文本</translation>
+        <translation>保存选中的系列</translation>
     </message>
     <message id="capture.export.failed">
         <source>“%1” could not be saved</source>
         <extracomment>Title of the message after a failed save; %1 is the file's name.</extracomment>
         <translation>无法保存“%1”</translation>
-    </message>
-    <message id="capture.export.no-folder">
-        <source>The folder “%1” does not exist any more. Choose another folder.</source>
-        <extracomment>Why a file was not saved; %1 is the folder's name.</extracomment>
-        <translation>文件夹“%1”已不存在。请选择其他文件夹。</translation>
-    </message>
-    <message id="capture.export.is-folder">
-        <source>There is a folder of this name. Choose another name.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>已有同名的文件夹。请选择其他名称。</translation>
-    </message>
-    <message id="capture.export.not-allowed">
-        <source>You are not allowed to write there. Choose another folder.</source>
-        <extracomment>Why a file was not saved.</extracomment>
-        <translation>您没有在那里写入的权限。请选择其他文件夹。</translation>
-    </message>
-    <message id="capture.export.not-written">
-        <source>The disk may be full or no longer connected. Make room or choose another folder, then save again.</source>
-        <extracomment>Why a file was not saved, when the reason is not known exactly.</extracomment>
-        <translation>磁盘可能已满或已断开连接。请腾出空间或选择其他文件夹，然后重新保存。</translation>
     </message>
 </context>
 </TS>

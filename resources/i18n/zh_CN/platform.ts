@@ -13,11 +13,6 @@
         <extracomment>The button that gives up a question without doing anything.</extracomment>
         <translation>取消</translation>
     </message>
-    <message id="platform.files.texts">
-        <source>Text files</source>
-        <extracomment>Kind of file in the save panel.</extracomment>
-        <translation>文本文件</translation>
-    </message>
     <message id="platform.files.pictures">
         <source>Pictures</source>
         <extracomment>Kind of file in the open panel.</extracomment>
