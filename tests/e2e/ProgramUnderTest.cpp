@@ -1,8 +1,10 @@
 #include "e2e/ProgramUnderTest.h"
 
+#include <QClipboard>
 #include <QColor>
 #include <QCursor>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
@@ -211,16 +213,37 @@ void ProgramUnderTest::toggleNextCheckBox()
     key(QStringLiteral("space"));
 }
 
+bool ProgramUnderTest::fillPanel(const QString &text)
+{
+    // The panel may have the focus of the desktop while it still makes its fields. What a field
+    // holds can be seen from outside only by copying it.
+    QClipboard *const clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    const auto isFilled = [this, clipboard, &text] {
+        key(QStringLiteral("ctrl+a"));
+        type(text);
+        key(QStringLiteral("ctrl+a"));
+        key(QStringLiteral("ctrl+c"));
+        return QTest::qWaitFor([clipboard, &text] { return clipboard->text() == text; }, 1000);
+    };
+    return QTest::qWaitFor(isFilled, patience);
+}
+
 std::vector<std::vector<double>> ProgramUnderTest::savedData()
 {
     const QString path = m_folder.filePath("data.txt");
     const QByteArray mainWindow = activeWindow();
     key(QStringLiteral("ctrl+e"));
-    if (!QTest::qWaitFor([&mainWindow] { return activeWindow() != mainWindow; }, patience))
+    const auto panelHasFocus = [&mainWindow] {
+        const QByteArray window = activeWindow();
+        return !window.isEmpty() && window != mainWindow &&
+               answerOfXdotool({"getwindowfocus"}) == window;
+    };
+    if (!QTest::qWaitFor(panelHasFocus, patience) || !fillPanel(path))
         return {};
-    type(path);
     key(QStringLiteral("Return"));
-    if (!QTest::qWaitFor([&path] { return QFile::exists(path); }, patience))
+    const auto dataCame = [&path] { return QFileInfo(path).size() > 0; };
+    if (!QTest::qWaitFor(dataCame, patience))
         return {};
     QFile file(path);
     std::vector<std::vector<double>> rows;

@@ -64,6 +64,8 @@ public:
 
 private:
     [[nodiscard]] std::optional<QPoint> findPictureOnScreen() const;
+    /// Replaces the text of the field that a panel begins with; false if it does not take it.
+    [[nodiscard]] bool fillPanel(const QString &text);
     static void move(QPoint screenPosition);
     static void xdotool(const QStringList &arguments);
     [[nodiscard]] static QByteArray answerOfXdotool(const QStringList &arguments);
