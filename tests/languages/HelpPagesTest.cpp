@@ -28,7 +28,7 @@ QMap<QString, QString> keyNames(const QString &language)
           {"Umschalt", "Shift"},
           {"Eingabetaste", "Return"},
           {"Leertaste", "Space"}}},
-        {"fr", {{"Maj", "Shift"}, {"Entrée", "Return"}, {"Espace", "Space"}}},
+        {"fr", {{"Maj", "Shift"}, {"Entrée", "Return"}, {"Espace", "Space"}, {"Échap", "Esc"}}},
         {"es", {{"Mayús", "Shift"}, {"Intro", "Return"}, {"Espacio", "Space"}, {"Súper", "Super"}}},
         {"ja", {{"Enter", "Return"}, {"スペース", "Space"}}},
         {"zh_CN", {{"回车", "Return"}, {"空格", "Space"}}},
@@ -68,7 +68,7 @@ QMap<QString, QString> menuTexts(const QString &language)
 std::string menuPathsOf(const QString &language, const QString &page)
 {
     const QMap<QString, QString> texts = menuTexts(language);
-    const QRegularExpression path(QStringLiteral("<b>([^<]* ▸[^<]*)</b>"));
+    const QRegularExpression path(QStringLiteral("<(?:b|td)>([^<]* ▸[^<]*)</"));
     QStringList paths;
     for (const QRegularExpressionMatch &match : path.globalMatch(page)) {
         QStringList steps = match.captured(1).simplified().split(QStringLiteral(" ▸ "));
@@ -80,6 +80,19 @@ std::string menuPathsOf(const QString &language, const QString &page)
     }
     paths.sort();
     return paths.join(u'\n').toStdString();
+}
+
+/// The commands in the lists of keys: each key's own name with the catalogue's key of the command
+/// beside it, where the list names it as a menu does.
+QMap<QString, QString> listedCommands(const QString &language, const QString &page)
+{
+    const QMap<QString, QString> texts = menuTexts(language);
+    const QRegularExpression row(
+        QStringLiteral("<td>([^<]*)</td><td>\\{key:([A-Za-z]+)\\}</td></tr>"));
+    QMap<QString, QString> commands;
+    for (const QRegularExpressionMatch &match : row.globalMatch(page))
+        commands.insert(match.captured(2), texts.value(match.captured(1)));
+    return commands;
 }
 
 class HelpPages : public ::testing::TestWithParam<QString>
@@ -157,5 +170,13 @@ TEST_P(HelpPages, nameTheMenusAsTheProgramDoes)
 {
     forEachPage([](const QString &translated, const QString &english) {
         EXPECT_EQ(menuPathsOf(GetParam(), translated), menuPathsOf(QStringLiteral("en"), english));
+    });
+}
+
+TEST_P(HelpPages, listTheCommandsByTheirNames)
+{
+    forEachPage([](const QString &translated, const QString &english) {
+        EXPECT_EQ(listedCommands(GetParam(), translated),
+                  listedCommands(QStringLiteral("en"), english));
     });
 }

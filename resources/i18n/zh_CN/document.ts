@@ -489,7 +489,7 @@
     </message>
     <message id="document.command.saveSelection">
         <source>Export Se&amp;lection…</source>
-        <translation>导出所选系列(&amp;L)…</translation>
+        <translation>导出选中的系列(&amp;L)…</translation>
     </message>
     <message id="document.command.close">
         <source>&amp;Close Window</source>
