@@ -1,26 +1,22 @@
 #include "infopanel/InfoPanelController.h"
 
+#include "infopanel/InfoPanelWindow.h"
 #include "platform/FloatingPanel.h"
 #include "platform/Texts.h"
-#include "ui_InfoPanel.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <algorithm>
 #include <optional>
+#include <utility>
 
 InfoPanelController *gInfoPanelController = nullptr;
 
 namespace {
 
 constexpr int distanceFromScreenEdge = 24;
-constexpr Qt::WindowFlags panelFlags = Qt::Tool | Qt::WindowDoesNotAcceptFocus |
-                                       Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                       Qt::WindowCloseButtonHint;
 
 std::optional<InfoFacts> factsOf(const InfoPanelDocument *document)
 {
@@ -41,18 +37,10 @@ InfoPanelController::InfoPanelController(InfoPanelPrefs &prefs, QAction &showHid
     : QObject(parent)
     , m_prefs(prefs)
     , m_showHideMenu(&showHideMenu)
-    , m_infoPanel(std::make_unique<QWidget>(nullptr, panelFlags))
-    , m_ui(std::make_unique<Ui::InfoPanel>())
+    , m_imageInfo(infotexts::imageInfo(nullptr))
+    , m_axisInfo(infotexts::axisTexts(nullptr))
+    , m_dataInfo(infotexts::dataInfo(nullptr))
 {
-    const Ui::InfoPanel &ui = *m_ui;
-    m_infoPanel->setFont(QFontDatabase::systemFont(QFontDatabase::SmallestReadableFont));
-    m_ui->setupUi(m_infoPanel.get());
-    m_axisInfo = {ui.axisInfo0, ui.axisInfo1, ui.axisInfo2, ui.axisInfo3,
-                  ui.axisInfo4, ui.axisInfo5, ui.axisInfo6};
-    m_axisLabel = {ui.axisLabel0, ui.axisLabel1, ui.axisLabel2, ui.axisLabel3,
-                   ui.axisLabel4, ui.axisLabel5, ui.axisLabel6};
-    m_dataInfo = {ui.dataInfo0, ui.dataInfo1, ui.dataInfo2, ui.dataInfo3};
-    m_infoPanel->installEventFilter(this);
     connect(&showHideMenu, &QAction::triggered, this, &InfoPanelController::showInfoPanel);
 }
 
@@ -66,21 +54,31 @@ void InfoPanelController::awakeFromNib()
 {
     gInfoPanelController = this;
     m_userClosedThePanel = false;
-    QFont titleFont = QFontDatabase::systemFont(QFontDatabase::SmallestReadableFont);
-    titleFont.setBold(true);
-    for (QLabel *title : {m_ui->imageTitle, m_ui->axisTitle, m_ui->dataTitle})
-        title->setFont(titleFont);
     infoVisibleChanged();
 }
 
+InfoPanelWindow &InfoPanelController::infoPanel()
+{
+    if (!m_infoPanel) {
+        m_infoPanel = std::make_unique<InfoPanelWindow>();
+        m_infoPanel->installEventFilter(this);
+        m_infoPanel->showImageInfo(m_imageInfo);
+        m_infoPanel->showAxisInfo(m_axisInfo);
+        m_infoPanel->showDataInfo(m_dataInfo);
+    }
+    return *m_infoPanel;
+}
+
+bool InfoPanelController::isVisible() const { return m_infoPanel && m_infoPanel->isVisible(); }
+
 void InfoPanelController::setIsVisible(bool visible)
 {
-    if (!visible) {
+    if (visible) {
+        placeAtFirst();
+        floatingpanel::show(infoPanel());
+    } else if (m_infoPanel) {
         m_infoPanel->hide();
-        return;
     }
-    placeAtFirst();
-    floatingpanel::show(*m_infoPanel);
 }
 
 // In the corner of the screen it is least in the way; from then on it stays where the user
@@ -92,23 +90,22 @@ void InfoPanelController::placeAtFirst()
     m_isPlaced = true;
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QPoint distance(distanceFromScreenEdge, 2 * distanceFromScreenEdge);
-    const QSize size = m_infoPanel->sizeHint();
-    m_infoPanel->move(screen.bottomRight() - distance - QPoint(size.width(), size.height()));
+    const QSize size = infoPanel().sizeHint();
+    infoPanel().move(screen.bottomRight() - distance - QPoint(size.width(), size.height()));
 }
 
 void InfoPanelController::showInfoPanel()
 {
     m_userClosedThePanel = false;
-    setIsVisible(!m_infoPanel->isVisible());
+    setIsVisible(!isVisible());
     infoVisibleChanged();
-    m_prefs.saveInfoPanelState(m_infoPanel->isVisible());
+    m_prefs.saveInfoPanelState(isVisible());
 }
 
 void InfoPanelController::infoVisibleChanged()
 {
     if (m_showHideMenu)
-        m_showHideMenu->setText(
-            texts::localized(m_infoPanel->isVisible() ? "HideInfo" : "ShowInfo"));
+        m_showHideMenu->setText(texts::localized(isVisible() ? "HideInfo" : "ShowInfo"));
 }
 
 bool InfoPanelController::windowShouldClose()
@@ -139,64 +136,46 @@ bool InfoPanelController::eventFilter(QObject *watched, QEvent *event)
 void InfoPanelController::updateAllInfoWith(const InfoPanelDocument *document)
 {
     const std::optional<InfoFacts> facts = factsOf(document);
-    showImageInfo(pointerTo(facts));
-    showAxisInfo(pointerTo(facts));
-    showDataInfo(pointerTo(facts));
+    setImageInfo(pointerTo(facts));
+    setAxisInfo(pointerTo(facts));
+    setDataInfo(pointerTo(facts));
 }
 
 void InfoPanelController::updateImageInfoWith(const InfoPanelDocument *document)
 {
-    showImageInfo(pointerTo(factsOf(document)));
+    setImageInfo(pointerTo(factsOf(document)));
 }
 
 void InfoPanelController::updateAxisInfoWith(const InfoPanelDocument *document)
 {
-    showAxisInfo(pointerTo(factsOf(document)));
+    setAxisInfo(pointerTo(factsOf(document)));
 }
 
 void InfoPanelController::updateDataInfoWith(const InfoPanelDocument *document)
 {
-    showDataInfo(pointerTo(factsOf(document)));
+    setDataInfo(pointerTo(factsOf(document)));
 }
 
-void InfoPanelController::showImageInfo(const InfoFacts *facts)
+void InfoPanelController::setImageInfo(const InfoFacts *facts)
 {
-    m_ui->imageInfo0->setText(infotexts::imageInfo(facts));
-    keepWidth();
+    m_imageInfo = infotexts::imageInfo(facts);
+    if (m_infoPanel)
+        m_infoPanel->showImageInfo(m_imageInfo);
 }
 
-void InfoPanelController::showAxisInfo(const InfoFacts *facts)
+void InfoPanelController::setAxisInfo(const InfoFacts *facts)
 {
-    const infotexts::AxisTexts axes = infotexts::axisTexts(facts);
-    for (std::size_t row = 0; row < m_axisInfo.size(); ++row)
-        m_axisInfo.at(row)->setText(axes.info.at(row));
+    infotexts::AxisTexts axes = infotexts::axisTexts(facts);
     if (!axes.labels)
-        return;
-    // The first caption is the same for every kind of axes.
-    for (std::size_t row = 1; row < m_axisLabel.size(); ++row)
-        m_axisLabel.at(row)->setText(axes.labels->at(row - 1));
-    keepWidth();
+        axes.labels = std::move(m_axisInfo.labels);
+    m_axisInfo = std::move(axes);
+    if (m_infoPanel)
+        m_infoPanel->showAxisInfo(m_axisInfo);
 }
 
-// Shorter captions or numbers do not make the panel narrower again: it would twitch during a drag.
-void InfoPanelController::keepWidth()
+void InfoPanelController::setDataInfo(const InfoFacts *facts)
 {
-    const auto keep = [this](int column, const auto &labels) {
-        int width = m_ui->infoLayout->columnMinimumWidth(column);
-        for (const QLabel *label : labels)
-            width = std::max(width, label->sizeHint().width());
-        m_ui->infoLayout->setColumnMinimumWidth(column, width);
-    };
-    keep(0, m_axisLabel);
-    keep(1, m_axisInfo);
-    keep(1, m_dataInfo);
-    keep(1, std::array{m_ui->imageInfo0});
-}
-
-void InfoPanelController::showDataInfo(const InfoFacts *facts)
-{
-    const auto info = infotexts::dataInfo(facts);
-    for (std::size_t row = 0; row < m_dataInfo.size(); ++row)
-        m_dataInfo.at(row)->setText(info.at(row));
-    keepWidth();
+    m_dataInfo = infotexts::dataInfo(facts);
+    if (m_infoPanel)
+        m_infoPanel->showDataInfo(m_dataInfo);
 }

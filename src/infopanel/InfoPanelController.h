@@ -6,19 +6,14 @@
 #include <QObject>
 #include <QPointer>
 
-#include <array>
 #include <memory>
 
+class InfoPanelWindow;
 class QAction;
-class QLabel;
-class QWidget;
-
-namespace Ui {
-class InfoPanel;
-}
 
 /// Fills the panel with facts about a document: it shows whichever document it was last handed, and
-/// keeps nothing of it.
+/// keeps nothing of it but the texts. The panel is made when it is first needed, because a program
+/// that starts without it starts sooner.
 class InfoPanelController : public QObject
 {
     Q_OBJECT
@@ -31,8 +26,8 @@ public:
     /// Makes this controller the application's (gInfoPanelController).
     void awakeFromNib();
 
-    /// The panel floats above the documents and never takes the keyboard from them.
-    [[nodiscard]] QWidget &infoPanel() const { return *m_infoPanel; }
+    [[nodiscard]] InfoPanelWindow &infoPanel();
+    [[nodiscard]] bool isVisible() const;
     /// The panel is being closed by its close box.
     [[nodiscard]] bool userClosedThePanel() const { return m_userClosedThePanel; }
 
@@ -59,18 +54,16 @@ protected:
 
 private:
     void placeAtFirst();
-    void keepWidth();
-    void showImageInfo(const InfoFacts *facts);
-    void showAxisInfo(const InfoFacts *facts);
-    void showDataInfo(const InfoFacts *facts);
+    void setImageInfo(const InfoFacts *facts);
+    void setAxisInfo(const InfoFacts *facts);
+    void setDataInfo(const InfoFacts *facts);
 
     InfoPanelPrefs &m_prefs;
     QPointer<QAction> m_showHideMenu;
-    const std::unique_ptr<QWidget> m_infoPanel;
-    const std::unique_ptr<Ui::InfoPanel> m_ui;
-    std::array<QLabel *, infotexts::axisRows> m_axisInfo{}; // owned by the panel, as the others
-    std::array<QLabel *, infotexts::axisRows> m_axisLabel{};
-    std::array<QLabel *, infotexts::dataRows> m_dataInfo{};
+    std::unique_ptr<InfoPanelWindow> m_infoPanel; // null until it is needed
+    QString m_imageInfo;
+    infotexts::AxisTexts m_axisInfo;
+    infotexts::DataTexts m_dataInfo;
     bool m_userClosedThePanel = false;
     bool m_isPlaced = false;
 };

@@ -72,7 +72,7 @@ AxisTexts axisTexts(const InfoFacts *facts)
     return facts->axes.axisType == polarAxes ? polarTexts(facts->axes) : cornerTexts(facts->axes);
 }
 
-std::array<QString, dataRows> dataInfo(const InfoFacts *facts)
+DataTexts dataInfo(const InfoFacts *facts)
 {
     if (facts == nullptr || !facts->imageSize)
         return {noValue(), noValue(), noValue(), noValue()};

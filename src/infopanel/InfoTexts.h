@@ -14,6 +14,8 @@ namespace infotexts {
 inline constexpr int axisRows = 7;
 inline constexpr int dataRows = 4;
 
+using DataTexts = std::array<QString, dataRows>;
+
 struct AxisTexts
 {
     std::array<QString, axisRows> info; ///< the kind of axes, then six values
@@ -27,6 +29,6 @@ struct AxisTexts
 [[nodiscard]] AxisTexts axisTexts(const InfoFacts *facts);
 
 /// Current series, current row, number of series and number of rows.
-[[nodiscard]] std::array<QString, dataRows> dataInfo(const InfoFacts *facts);
+[[nodiscard]] DataTexts dataInfo(const InfoFacts *facts);
 
 } // namespace infotexts

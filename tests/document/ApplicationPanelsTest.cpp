@@ -25,7 +25,7 @@ protected:
     }
     [[nodiscard]] bool infoPanelIsVisible() const
     {
-        return m_panels->infoPanelController().infoPanel().isVisible();
+        return m_panels->infoPanelController().isVisible();
     }
     [[nodiscard]] std::optional<QJsonValue> stored(const QString &key) const
     {

@@ -1,6 +1,7 @@
 #include "axes/CurrentAxes.h"
 #include "document/TestDocument.h"
 #include "infopanel/InfoPanelController.h"
+#include "infopanel/InfoPanelWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ class InfoPanelBesideDocument : public testing::Test
 protected:
     InfoPanelBesideDocument() { m_controller.awakeFromNib(); }
 
-    [[nodiscard]] std::string text(const char *name) const
+    [[nodiscard]] std::string text(const char *name)
     {
         return m_controller.infoPanel()
             .findChild<QLabel *>(QString::fromLatin1(name))

@@ -1,4 +1,5 @@
 #include "infopanel/InfoPanelController.h"
+#include "infopanel/InfoPanelWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -43,14 +44,14 @@ class InfoPanel : public testing::Test
 protected:
     InfoPanel() { m_controller.awakeFromNib(); }
 
-    [[nodiscard]] std::string text(const std::string &name) const
+    [[nodiscard]] std::string text(const std::string &name)
     {
         const auto *label =
             m_controller.infoPanel().findChild<QLabel *>(QString::fromStdString(name));
         return label == nullptr ? "no " + name : label->text().toStdString();
     }
 
-    [[nodiscard]] std::string texts(const std::string &name, int first, int last) const
+    [[nodiscard]] std::string texts(const std::string &name, int first, int last)
     {
         std::string all;
         for (int i = first; i <= last; ++i)
@@ -58,7 +59,7 @@ protected:
         return all;
     }
 
-    [[nodiscard]] bool isVisible() const { return m_controller.infoPanel().isVisible(); }
+    [[nodiscard]] bool isVisible() const { return m_controller.isVisible(); }
 
     /// Closes the panel as the desktop does for a click on the close box.
     void clickCloseBox()
@@ -220,6 +221,17 @@ TEST_F(InfoPanel, eachSectionGoesBackToNothingByItself)
     EXPECT_EQ(text("dataInfo0"), "3");
     m_controller.updateDataInfoWith(nullptr);
     EXPECT_EQ(text("dataInfo0"), "-----");
+}
+
+TEST_F(InfoPanel, shownForTheFirstTimeItTellsWhatItWasHandedBefore)
+{
+    m_document.facts.axes.axisType = 2;
+    m_controller.updateAllInfoWith(&m_document);
+    m_controller.updateAxisInfoWith(nullptr);
+    m_controller.setIsVisible(true);
+    EXPECT_EQ(text("imageInfo0"), "640 × 480");
+    EXPECT_EQ(text("axisInfo0"), "-----");
+    EXPECT_EQ(text("dataInfo0"), "3");
 }
 
 TEST_F(InfoPanel, keepsItsCaptionsWithoutADocument)

@@ -11,6 +11,7 @@
 #include "imageview/GraphImageView.h"
 #include "imageview/PageSource.h"
 #include "infopanel/InfoPanelController.h"
+#include "infopanel/InfoPanelWindow.h"
 #include "languages/CatalogueFile.h"
 #include "languages/ShownTexts.h"
 #include "platform/TextCatalogues.h"
