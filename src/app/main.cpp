@@ -4,7 +4,9 @@
 #include "app/RunningProgram.h"
 #include "document/ApplicationPanels.h"
 #include "document/DocumentController.h"
+#include "document/MenuBarStyle.h"
 #include "helpbook/HelpBookViewer.h"
+#include "platform/FirstPaint.h"
 #include "platform/Languages.h"
 #include "platform/TextCatalogues.h"
 #include "platform/Texts.h"
@@ -15,9 +17,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
-#include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -94,7 +96,7 @@ int main(int argc, char **argv)
     const TextCatalogues catalogues(languageOfUser());
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Curvegrab X"));
     QGuiApplication::setDesktopFileName(QStringLiteral(CURVEGRAB_DESKTOP_ID));
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
+    QApplication::setStyle(std::make_unique<MenuBarStyle>().release()); // it owns it now
 
     const QString stateFolder = DocumentController::standardStateFolder();
     RunningProgram running(RunningProgram::nameFor(stateFolder));
@@ -120,7 +122,10 @@ int main(int argc, char **argv)
     documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
     documents.start(commandLine.files);
-    // The panels come after the windows of the documents.
-    QTimer::singleShot(0, &application, [&prefs] { prefs.applicationDidFinishLaunching(); });
+    // What is not needed to see the first window comes after it.
+    firstpaint::whenOver(application, [&prefs] {
+        QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
+        prefs.applicationDidFinishLaunching();
+    });
     return QApplication::exec();
 }
