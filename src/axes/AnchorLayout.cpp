@@ -3,7 +3,9 @@
 #include "geometry/ZKPoint.h"
 #include "geometry/ZKRect.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace {
 
@@ -22,6 +24,20 @@ FloatPoint midpoint(FloatPoint a, FloatPoint b)
 {
     return ZKPoint::multiplyPoint(ZKPoint::addPoint(a, b), 0.5F);
 }
+
+FloatPoint middleOf(const FloatRect &rect)
+{
+    return {rect.origin.x + rect.size.width / 2, rect.origin.y + rect.size.height / 2};
+}
+
+/// The squares and dots in the order of their part codes.
+std::array<const FloatRect *, 8> handlesOf(const AnchorLayout &layout)
+{
+    return {&layout.anchor1Rect,  &layout.anchor2Rect,  &layout.anchor3Rect,  &layout.anchor4Rect,
+            &layout.anchor12Rect, &layout.anchor23Rect, &layout.anchor34Rect, &layout.anchor41Rect};
+}
+
+int firstHandlePart(int axisType) { return axisType == axistype::polar ? 10 : 2; }
 
 FloatPoint narrowed(double x, double y) { return {static_cast<float>(x), static_cast<float>(y)}; }
 
@@ -91,13 +107,42 @@ AnchorLayout anchorlayout::make(int axisType, const Anchors &anchors, const View
 int anchorlayout::partOfHit(int axisType, const AnchorLayout &layout, FloatPoint point)
 {
     // The order decides where handles overlap: corners win over sides, lower numbers over higher.
-    int code = axisType == axistype::polar ? 10 : 2;
-    for (const FloatRect *rect :
-         {&layout.anchor1Rect, &layout.anchor2Rect, &layout.anchor3Rect, &layout.anchor4Rect,
-          &layout.anchor12Rect, &layout.anchor23Rect, &layout.anchor34Rect, &layout.anchor41Rect}) {
+    int code = firstHandlePart(axisType);
+    for (const FloatRect *rect : handlesOf(layout)) {
         if (rect->contains(point))
             return code;
         ++code;
     }
     return layout.axisArea && layout.axisArea->contains(point) ? 1 : 0;
+}
+
+std::optional<FloatPoint> anchorlayout::placeOfPart(int axisType, const AnchorLayout &layout,
+                                                    int part)
+{
+    const auto handles = handlesOf(layout);
+    const int index = part - firstHandlePart(axisType);
+    if (index >= 0 && index < static_cast<int>(handles.size()))
+        return middleOf(*handles.at(static_cast<std::size_t>(index)));
+    if (part == 1 && axisType != axistype::polar)
+        return midpoint(midpoint(middleOf(layout.anchor1Rect), middleOf(layout.anchor3Rect)),
+                        midpoint(middleOf(layout.anchor2Rect), middleOf(layout.anchor4Rect)));
+    return std::nullopt;
+}
+
+int anchorlayout::partBeside(int axisType, int part, int direction)
+{
+    const int first = firstHandlePart(axisType);
+    const int last = first + 7;
+    const bool hasArea = axisType != axistype::polar;
+    const int end = hasArea ? 1 : last;
+    if (part == 1 && hasArea)
+        return direction > 0 ? first : last;
+    if (part < first || part > last)
+        return direction > 0 ? first : end;
+    const int beside = part + direction;
+    if (beside < first)
+        return end;
+    if (beside > last)
+        return hasArea ? 1 : first;
+    return beside;
 }

@@ -47,4 +47,14 @@ struct ViewMeasures
 /// handles.
 [[nodiscard]] int partOfHit(int axisType, const AnchorLayout &layout, FloatPoint point);
 
+/// The middle of the part of code `part`; for the area of four corners the middle of these.
+/// Nothing for what is no part of such axes.
+[[nodiscard]] std::optional<FloatPoint> placeOfPart(int axisType, const AnchorLayout &layout,
+                                                    int part);
+
+/// The part that follows (`direction` 1) or precedes (-1) `part` from the anchors over the other
+/// handles to the whole; the first or the last one beside what is no part. The disc of polar axes
+/// is left out: its centre moves it too.
+[[nodiscard]] int partBeside(int axisType, int part, int direction);
+
 } // namespace anchorlayout

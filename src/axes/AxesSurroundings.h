@@ -16,6 +16,8 @@ public:
     /// The message sheets at the document's window.
     [[nodiscard]] virtual Sheets &sheets() = 0;
     virtual void updateChangeCount(ChangeKind kind) = 0;
+    /// The anchors have moved on within a step of undo that counts already.
+    virtual void anchorsMovedOn() = 0;
     [[nodiscard]] virtual bool isInAxisSettingMode() const = 0;
     /// Shows the axis-setting page, whatever page is shown now.
     virtual void forceAxisSettingMode() = 0;

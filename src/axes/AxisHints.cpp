@@ -32,6 +32,31 @@ constexpr std::array polarKeys{"axes.hint.polar.centre", "axes.hint.polar.end",
                                "axes.hint.polar.turn",   "axes.hint.polar.turn",
                                "axes.hint.polar.size",   "axes.hint.polar.size"};
 
+// The names, by the same codes.
+constexpr std::array parallelNames{"",
+                                   "axes.part.frame",
+                                   "axes.part.origin",
+                                   "axes.part.maxx",
+                                   "axes.part.far",
+                                   "axes.part.maxy",
+                                   "axes.part.xaxis",
+                                   "axes.part.rightside",
+                                   "axes.part.topside",
+                                   "axes.part.yaxis"};
+constexpr std::array quadrangleNames{"",
+                                     "axes.part.frame",
+                                     "axes.part.bottomleft",
+                                     "axes.part.bottomright",
+                                     "axes.part.topright",
+                                     "axes.part.topleft",
+                                     "axes.part.bottomside",
+                                     "axes.part.rightside",
+                                     "axes.part.topside",
+                                     "axes.part.leftside"};
+constexpr std::array polarNames{"axes.part.centre", "axes.part.end",  "axes.part.swing",
+                                "axes.part.swing",  "axes.part.turn", "axes.part.turn",
+                                "axes.part.size",   "axes.part.size"};
+
 template <std::size_t count>
 const char *keyAt(const std::array<const char *, count> &keys, int index, const char *otherwise)
 {
@@ -55,4 +80,14 @@ const char *keyOf(int axisType, int part)
 QString axishints::hintForPart(int axisType, int part)
 {
     return texts::localized(keyOf(axisType, part));
+}
+
+QString axishints::nameOfPart(int axisType, int part)
+{
+    const char *key = "";
+    if (axisType == axistype::polar)
+        key = keyAt(polarNames, part - firstPolarPart, "");
+    else
+        key = keyAt(axisType == axistype::quadrangle ? quadrangleNames : parallelNames, part, "");
+    return *key == '\0' ? QString() : texts::localized(key);
 }

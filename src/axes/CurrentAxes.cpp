@@ -135,7 +135,11 @@ void CurrentAxes::registerAnchorUndo(const char *actionNameKey)
     undoManager.registerUndo(this, [this, before = currentAnchors()] { setAnchors(before); });
 }
 
-void CurrentAxes::removeAnchorUndo() { m_document.undoManager().removeAllActionsWithTarget(this); }
+void CurrentAxes::removeAnchorUndo()
+{
+    endMovesOfPart();
+    m_document.undoManager().removeAllActionsWithTarget(this);
+}
 
 void CurrentAxes::makeAnchorRectsWithScale(float scale)
 {
@@ -176,6 +180,40 @@ void CurrentAxes::endDrag(FloatPoint viewPoint)
 {
     continueDrag(viewPoint);
     m_drag.reset();
+}
+
+/// The layout at one view point per picture point: its middles are places on the picture.
+AnchorLayout CurrentAxes::layoutOnPicture() const
+{
+    return anchorlayout::make(m_axisType, m_anchors, {1, m_graphView.scaledImageSize(), 0});
+}
+
+int CurrentAxes::partBeside(int part, int direction) const
+{
+    return anchorlayout::partBeside(m_axisType, part, direction);
+}
+
+std::optional<FloatPoint> CurrentAxes::placeOfPart(int part) const
+{
+    return anchorlayout::placeOfPart(m_axisType, layoutOnPicture(), part);
+}
+
+QString CurrentAxes::nameOfPart(int part) const { return axishints::nameOfPart(m_axisType, part); }
+
+void CurrentAxes::movePart(int part, FloatPoint way)
+{
+    const std::optional<FloatPoint> from = placeOfPart(part);
+    if (!from)
+        return;
+    if (m_movesOfPart && m_movesOfPart->part == part && m_movesOfPart->anchors == m_anchors)
+        m_document.anchorsMovedOn();
+    else
+        registerAnchorUndo("actionAxisChange");
+    const AnchorDrag drag(m_axisType, part, m_anchors, *from, 1);
+    m_anchors = drag.moved({from->x + way.x, from->y + way.y}, m_anchors);
+    m_movesOfPart = {part, m_anchors};
+    makeAnchorRectsWithScale(m_graphView.imageScale());
+    m_graphView.setNeedsDisplay();
 }
 
 void CurrentAxes::resetPosition(Sender sender)

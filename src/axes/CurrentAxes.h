@@ -144,6 +144,18 @@ public:
     void endDrag(FloatPoint viewPoint);
     [[nodiscard]] bool isDragging() const { return m_drag.has_value(); }
 
+    /// The part that follows (`direction` 1) or precedes (-1) `part`; 0 stands for none.
+    [[nodiscard]] int partBeside(int part, int direction) const;
+    /// Where a part stands, in picture points; nothing for what is no part of these axes.
+    [[nodiscard]] std::optional<FloatPoint> placeOfPart(int part) const;
+    /// What a part is called, for the status line and for screen readers.
+    [[nodiscard]] QString nameOfPart(int part) const;
+    /// Moves a part by `way` (picture points), as a drag of it does. Moves of one part in a row
+    /// are one step for undo.
+    void movePart(int part, FloatPoint way);
+    /// The next move is a step of its own.
+    void endMovesOfPart() { m_movesOfPart.reset(); }
+
     /// Puts the anchors at their default places, or on the whole picture with pixel values.
     void resetPosition(Sender sender);
     void wholePosition(Sender sender);
@@ -180,7 +192,15 @@ private:
         QCheckBox *logCheck;
     };
 
+    /// The moves of one part that are undone together, and where they have led to.
+    struct MovesOfPart
+    {
+        int part;
+        Anchors anchors;
+    };
+
     void connectActions();
+    [[nodiscard]] AnchorLayout layoutOnPicture() const;
     [[nodiscard]] AxisFields xAxis();
     [[nodiscard]] AxisFields yAxis();
     void valueEdited(const AxisFields &axis, RangeEnd end);
@@ -210,4 +230,5 @@ private:
     Anchors m_anchors;
     AnchorLayout m_layout;
     std::optional<AnchorDrag> m_drag;
+    std::optional<MovesOfPart> m_movesOfPart;
 };

@@ -36,6 +36,8 @@ Sheets &AxesAdapter::sheets() { return m_document.sheets(); }
 
 void AxesAdapter::updateChangeCount(ChangeKind kind) { m_document.updateChangeCount(kind); }
 
+void AxesAdapter::anchorsMovedOn() { m_document.changedOn(); }
+
 bool AxesAdapter::isInAxisSettingMode() const { return m_document.isInAxisSettingMode(); }
 
 void AxesAdapter::forceAxisSettingMode() { m_document.forceAxisSettingMode(); }
@@ -151,10 +153,7 @@ void ImageViewAdapter::removeUndoOfDataSeries()
     m_document.undoManager().removeAllActionsWithTarget(&m_document.dataSeries());
 }
 
-void ImageViewAdapter::removeUndoOfCurrentAxes()
-{
-    m_document.undoManager().removeAllActionsWithTarget(&m_document.currentAxes());
-}
+void ImageViewAdapter::removeUndoOfCurrentAxes() { m_document.currentAxes().removeAnchorUndo(); }
 
 void ImageViewAdapter::resetPositionFromImageView()
 {

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] UndoManager &undoManager() override;
     [[nodiscard]] Sheets &sheets() override;
     void updateChangeCount(ChangeKind kind) override;
+    void anchorsMovedOn() override;
     [[nodiscard]] bool isInAxisSettingMode() const override;
     void forceAxisSettingMode() override;
 

@@ -159,6 +159,9 @@ void MyDocument::updateChangeCount(ChangeKind kind)
     case ChangeKind::Cleared:
         m_changeCount = 0;
         m_savedStateIsGone = false;
+        // What was saved is not to change within a step that is counted already.
+        if (m_currentAxes != nullptr)
+            m_currentAxes->endMovesOfPart();
         break;
     }
     changeCountMoved();
@@ -171,6 +174,13 @@ void MyDocument::changeCountMoved()
     m_window->setWindowModified(isDocumentEdited());
     if (m_recovery != nullptr)
         m_recovery->documentChanged();
+}
+
+void MyDocument::changedOn()
+{
+    if (m_recovery != nullptr)
+        m_recovery->documentChanged();
+    Q_EMIT edited();
 }
 
 QString MyDocument::displayName() const

@@ -146,6 +146,8 @@ public:
 
     /// Moves the change count; the document is modified while it is not zero.
     void updateChangeCount(ChangeKind kind);
+    /// The content has changed on within a step of undo that is counted already.
+    void changedOn();
     [[nodiscard]] bool isDocumentEdited() const { return m_changeCount != 0 || m_savedStateIsGone; }
     [[nodiscard]] QString displayName() const;
     /// Tells documents without a file apart.

@@ -44,6 +44,7 @@ public:
         m_log.emplace_back("change");
         count(kind);
     }
+    void anchorsMovedOn() override { m_log.emplace_back("movedOn"); }
     [[nodiscard]] bool isInAxisSettingMode() const override { return m_axisSettingMode; }
     void forceAxisSettingMode() override
     {

@@ -218,5 +218,105 @@
         <extracomment>Status line: polar axes, a size handle.</extracomment>
         <translation>Ziehen, um den Radius länger oder kürzer zu machen</translation>
     </message>
+    <message id="axes.part.frame">
+        <source>Whole frame</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ganzer Rahmen</translation>
+    </message>
+    <message id="axes.part.origin">
+        <source>Origin corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ecke im Ursprung</translation>
+    </message>
+    <message id="axes.part.maxx">
+        <source>X maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Anker des X-Maximums</translation>
+    </message>
+    <message id="axes.part.far">
+        <source>Corner opposite the origin</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ecke gegenüber dem Ursprung</translation>
+    </message>
+    <message id="axes.part.maxy">
+        <source>Y maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Anker des Y-Maximums</translation>
+    </message>
+    <message id="axes.part.xaxis">
+        <source>X axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>X-Achse</translation>
+    </message>
+    <message id="axes.part.yaxis">
+        <source>Y axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Y-Achse</translation>
+    </message>
+    <message id="axes.part.bottomside">
+        <source>Bottom side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Untere Seite</translation>
+    </message>
+    <message id="axes.part.rightside">
+        <source>Right side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Rechte Seite</translation>
+    </message>
+    <message id="axes.part.topside">
+        <source>Top side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Obere Seite</translation>
+    </message>
+    <message id="axes.part.leftside">
+        <source>Left side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Linke Seite</translation>
+    </message>
+    <message id="axes.part.bottomleft">
+        <source>Bottom left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Linke untere Ecke</translation>
+    </message>
+    <message id="axes.part.bottomright">
+        <source>Bottom right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Rechte untere Ecke</translation>
+    </message>
+    <message id="axes.part.topright">
+        <source>Top right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Rechte obere Ecke</translation>
+    </message>
+    <message id="axes.part.topleft">
+        <source>Top left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Linke obere Ecke</translation>
+    </message>
+    <message id="axes.part.centre">
+        <source>Centre of the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Mitte der Scheibe</translation>
+    </message>
+    <message id="axes.part.end">
+        <source>End of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ende des Radius</translation>
+    </message>
+    <message id="axes.part.swing">
+        <source>Corner that turns and resizes the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ecke, die die Scheibe dreht und vergrößert</translation>
+    </message>
+    <message id="axes.part.turn">
+        <source>Handle that turns the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Griff, der den Radius dreht</translation>
+    </message>
+    <message id="axes.part.size">
+        <source>Handle for the length of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Griff für die Länge des Radius</translation>
+    </message>
 </context>
 </TS>

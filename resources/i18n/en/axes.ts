@@ -218,5 +218,105 @@
         <extracomment>Status line: polar axes, a size handle.</extracomment>
         <translation>Drag to make the radius longer or shorter</translation>
     </message>
+    <message id="axes.part.frame">
+        <source>Whole frame</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Whole frame</translation>
+    </message>
+    <message id="axes.part.origin">
+        <source>Origin corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Origin corner</translation>
+    </message>
+    <message id="axes.part.maxx">
+        <source>X maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>X maximum anchor</translation>
+    </message>
+    <message id="axes.part.far">
+        <source>Corner opposite the origin</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Corner opposite the origin</translation>
+    </message>
+    <message id="axes.part.maxy">
+        <source>Y maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Y maximum anchor</translation>
+    </message>
+    <message id="axes.part.xaxis">
+        <source>X axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>X axis</translation>
+    </message>
+    <message id="axes.part.yaxis">
+        <source>Y axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Y axis</translation>
+    </message>
+    <message id="axes.part.bottomside">
+        <source>Bottom side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Bottom side</translation>
+    </message>
+    <message id="axes.part.rightside">
+        <source>Right side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Right side</translation>
+    </message>
+    <message id="axes.part.topside">
+        <source>Top side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Top side</translation>
+    </message>
+    <message id="axes.part.leftside">
+        <source>Left side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Left side</translation>
+    </message>
+    <message id="axes.part.bottomleft">
+        <source>Bottom left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Bottom left corner</translation>
+    </message>
+    <message id="axes.part.bottomright">
+        <source>Bottom right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Bottom right corner</translation>
+    </message>
+    <message id="axes.part.topright">
+        <source>Top right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Top right corner</translation>
+    </message>
+    <message id="axes.part.topleft">
+        <source>Top left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Top left corner</translation>
+    </message>
+    <message id="axes.part.centre">
+        <source>Centre of the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Centre of the disc</translation>
+    </message>
+    <message id="axes.part.end">
+        <source>End of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>End of the radius</translation>
+    </message>
+    <message id="axes.part.swing">
+        <source>Corner that turns and resizes the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Corner that turns and resizes the disc</translation>
+    </message>
+    <message id="axes.part.turn">
+        <source>Handle that turns the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Handle that turns the radius</translation>
+    </message>
+    <message id="axes.part.size">
+        <source>Handle for the length of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Handle for the length of the radius</translation>
+    </message>
 </context>
 </TS>

@@ -218,5 +218,105 @@
         <extracomment>Status line: polar axes, a size handle.</extracomment>
         <translation>Arrastre para alargar o acortar el radio</translation>
     </message>
+    <message id="axes.part.frame">
+        <source>Whole frame</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Marco entero</translation>
+    </message>
+    <message id="axes.part.origin">
+        <source>Origin corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina del origen</translation>
+    </message>
+    <message id="axes.part.maxx">
+        <source>X maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ancla del máximo de X</translation>
+    </message>
+    <message id="axes.part.far">
+        <source>Corner opposite the origin</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina opuesta al origen</translation>
+    </message>
+    <message id="axes.part.maxy">
+        <source>Y maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ancla del máximo de Y</translation>
+    </message>
+    <message id="axes.part.xaxis">
+        <source>X axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Eje X</translation>
+    </message>
+    <message id="axes.part.yaxis">
+        <source>Y axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Eje Y</translation>
+    </message>
+    <message id="axes.part.bottomside">
+        <source>Bottom side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Lado inferior</translation>
+    </message>
+    <message id="axes.part.rightside">
+        <source>Right side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Lado derecho</translation>
+    </message>
+    <message id="axes.part.topside">
+        <source>Top side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Lado superior</translation>
+    </message>
+    <message id="axes.part.leftside">
+        <source>Left side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Lado izquierdo</translation>
+    </message>
+    <message id="axes.part.bottomleft">
+        <source>Bottom left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina inferior izquierda</translation>
+    </message>
+    <message id="axes.part.bottomright">
+        <source>Bottom right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina inferior derecha</translation>
+    </message>
+    <message id="axes.part.topright">
+        <source>Top right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina superior derecha</translation>
+    </message>
+    <message id="axes.part.topleft">
+        <source>Top left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina superior izquierda</translation>
+    </message>
+    <message id="axes.part.centre">
+        <source>Centre of the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Centro del disco</translation>
+    </message>
+    <message id="axes.part.end">
+        <source>End of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Extremo del radio</translation>
+    </message>
+    <message id="axes.part.swing">
+        <source>Corner that turns and resizes the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Esquina que gira y cambia de tamaño el disco</translation>
+    </message>
+    <message id="axes.part.turn">
+        <source>Handle that turns the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Tirador que gira el radio</translation>
+    </message>
+    <message id="axes.part.size">
+        <source>Handle for the length of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Tirador de la longitud del radio</translation>
+    </message>
 </context>
 </TS>

@@ -218,5 +218,105 @@
         <extracomment>Status line: polar axes, a size handle.</extracomment>
         <translation>Faites glisser pour allonger ou raccourcir le rayon</translation>
     </message>
+    <message id="axes.part.frame">
+        <source>Whole frame</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Tout le cadre</translation>
+    </message>
+    <message id="axes.part.origin">
+        <source>Origin corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin de l’origine</translation>
+    </message>
+    <message id="axes.part.maxx">
+        <source>X maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ancre du maximum de X</translation>
+    </message>
+    <message id="axes.part.far">
+        <source>Corner opposite the origin</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin opposé à l’origine</translation>
+    </message>
+    <message id="axes.part.maxy">
+        <source>Y maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Ancre du maximum de Y</translation>
+    </message>
+    <message id="axes.part.xaxis">
+        <source>X axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Axe X</translation>
+    </message>
+    <message id="axes.part.yaxis">
+        <source>Y axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Axe Y</translation>
+    </message>
+    <message id="axes.part.bottomside">
+        <source>Bottom side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Côté inférieur</translation>
+    </message>
+    <message id="axes.part.rightside">
+        <source>Right side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Côté droit</translation>
+    </message>
+    <message id="axes.part.topside">
+        <source>Top side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Côté supérieur</translation>
+    </message>
+    <message id="axes.part.leftside">
+        <source>Left side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Côté gauche</translation>
+    </message>
+    <message id="axes.part.bottomleft">
+        <source>Bottom left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin inférieur gauche</translation>
+    </message>
+    <message id="axes.part.bottomright">
+        <source>Bottom right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin inférieur droit</translation>
+    </message>
+    <message id="axes.part.topright">
+        <source>Top right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin supérieur droit</translation>
+    </message>
+    <message id="axes.part.topleft">
+        <source>Top left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin supérieur gauche</translation>
+    </message>
+    <message id="axes.part.centre">
+        <source>Centre of the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Centre du disque</translation>
+    </message>
+    <message id="axes.part.end">
+        <source>End of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Extrémité du rayon</translation>
+    </message>
+    <message id="axes.part.swing">
+        <source>Corner that turns and resizes the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Coin qui tourne et redimensionne le disque</translation>
+    </message>
+    <message id="axes.part.turn">
+        <source>Handle that turns the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Poignée qui tourne le rayon</translation>
+    </message>
+    <message id="axes.part.size">
+        <source>Handle for the length of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Poignée de la longueur du rayon</translation>
+    </message>
 </context>
 </TS>

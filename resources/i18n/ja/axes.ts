@@ -218,5 +218,105 @@
         <extracomment>Status line: polar axes, a size handle.</extracomment>
         <translation>ドラッグすると半径の長さが変わります</translation>
     </message>
+    <message id="axes.part.frame">
+        <source>Whole frame</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>枠全体</translation>
+    </message>
+    <message id="axes.part.origin">
+        <source>Origin corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>原点の角</translation>
+    </message>
+    <message id="axes.part.maxx">
+        <source>X maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>X の最大のアンカー</translation>
+    </message>
+    <message id="axes.part.far">
+        <source>Corner opposite the origin</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>原点の向かいの角</translation>
+    </message>
+    <message id="axes.part.maxy">
+        <source>Y maximum anchor</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Y の最大のアンカー</translation>
+    </message>
+    <message id="axes.part.xaxis">
+        <source>X axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>X 軸</translation>
+    </message>
+    <message id="axes.part.yaxis">
+        <source>Y axis</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>Y 軸</translation>
+    </message>
+    <message id="axes.part.bottomside">
+        <source>Bottom side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>下の辺</translation>
+    </message>
+    <message id="axes.part.rightside">
+        <source>Right side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>右の辺</translation>
+    </message>
+    <message id="axes.part.topside">
+        <source>Top side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>上の辺</translation>
+    </message>
+    <message id="axes.part.leftside">
+        <source>Left side</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>左の辺</translation>
+    </message>
+    <message id="axes.part.bottomleft">
+        <source>Bottom left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>左下の角</translation>
+    </message>
+    <message id="axes.part.bottomright">
+        <source>Bottom right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>右下の角</translation>
+    </message>
+    <message id="axes.part.topright">
+        <source>Top right corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>右上の角</translation>
+    </message>
+    <message id="axes.part.topleft">
+        <source>Top left corner</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>左上の角</translation>
+    </message>
+    <message id="axes.part.centre">
+        <source>Centre of the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>円の中心</translation>
+    </message>
+    <message id="axes.part.end">
+        <source>End of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>半径の端</translation>
+    </message>
+    <message id="axes.part.swing">
+        <source>Corner that turns and resizes the disc</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>円の向きと大きさを変える角</translation>
+    </message>
+    <message id="axes.part.turn">
+        <source>Handle that turns the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>半径の向きを変えるハンドル</translation>
+    </message>
+    <message id="axes.part.size">
+        <source>Handle for the length of the radius</source>
+        <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
+        <translation>半径の長さを変えるハンドル</translation>
+    </message>
 </context>
 </TS>
