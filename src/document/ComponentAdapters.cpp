@@ -191,6 +191,23 @@ void ImageViewAdapter::endDrag(FloatPoint now) { m_document.currentAxes().endDra
 
 bool ImageViewAdapter::isDragging() const { return m_document.currentAxes().isDragging(); }
 
+int ImageViewAdapter::partBeside(int part, int direction) const
+{
+    return m_document.currentAxes().partBeside(part, direction);
+}
+
+std::optional<FloatPoint> ImageViewAdapter::placeOfPart(int part) const
+{
+    return m_document.currentAxes().placeOfPart(part);
+}
+
+void ImageViewAdapter::movePart(int part, FloatPoint way)
+{
+    m_document.currentAxes().movePart(part, way);
+}
+
+void ImageViewAdapter::endMovesOfPart() { m_document.currentAxes().endMovesOfPart(); }
+
 std::shared_ptr<const ZKConvCoordinate> ImageViewAdapter::makeAxisConverter()
 {
     return m_document.currentAxes().makeAxisConverter();

@@ -124,6 +124,10 @@ public:
     void continueDrag(FloatPoint now) override;
     void endDrag(FloatPoint now) override;
     [[nodiscard]] bool isDragging() const override;
+    [[nodiscard]] int partBeside(int part, int direction) const override;
+    [[nodiscard]] std::optional<FloatPoint> placeOfPart(int part) const override;
+    void movePart(int part, FloatPoint way) override;
+    void endMovesOfPart() override;
     [[nodiscard]] std::shared_ptr<const ZKConvCoordinate> makeAxisConverter() override;
 
     [[nodiscard]] std::shared_ptr<const ZKConvCoordinate> converter() const override;

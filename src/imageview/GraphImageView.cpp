@@ -1,6 +1,8 @@
 #include "imageview/GraphImageView.h"
 
+#include "imageview/AccessiblePicture.h"
 #include "imageview/DropArea.h"
+#include "imageview/FocusFrame.h"
 #include "imageview/ImageViewSurroundings.h"
 #include "imageview/PdfOpener.h"
 #include "imageview/PictureOpener.h"
@@ -28,8 +30,10 @@ GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     : m_scrollArea(scrollArea)
     , m_opener(std::make_unique<PictureOpener>(scrollArea))
     , m_pdfOpener(std::make_unique<PdfOpener>(scrollArea))
+    , m_focusFrame(nullptr)
 {
     setObjectName(QStringLiteral("graphView"));
+    accessiblepicture::install();
     setAccessibleName(texts::localized("imageview.view.name"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -38,6 +42,8 @@ GraphImageView::GraphImageView(PictureScrollArea &scrollArea)
     connect(&m_mouseCheckTimer, &QTimer::timeout, this, &GraphImageView::mouseCheckRoutine);
     connect(&scrollArea, &PictureScrollArea::zoomRequested, this, &GraphImageView::zoomAbout);
     scrollArea.setDocumentView(this);
+    // After the view, which goes first and may lose the focus only then.
+    m_focusFrame = new FocusFrame(scrollArea.viewport());
     new DropArea(scrollArea, *this);
 }
 
@@ -155,6 +161,7 @@ bool GraphImageView::replaceImageWith(std::optional<Picture> image)
     const bool taken = image.has_value();
     if (taken) {
         abandonPress();
+        leavePointerToMouse();
         m_originalImage = std::move(image);
         m_archivedImage.reset();
         otherPictureCame();
@@ -198,6 +205,7 @@ void GraphImageView::imageRotateCcw()
 
 void GraphImageView::imageRotated()
 {
+    leavePointerToMouse();
     makeScaledImage();
     m_outlets.currentAxes->resetPosition();
     m_outlets.infoPanel->updateImageInfo();
@@ -258,6 +266,7 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
 {
     if (stored == nullptr)
         return false;
+    leavePointerToMouse();
     m_imageScale = stored->floatForKey("Image Scale");
     if (!std::isfinite(m_imageScale) || m_imageScale <= 0)
         m_imageScale = minimumScale; // no picture can be shown at the stored one
@@ -286,6 +295,8 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
 void GraphImageView::settingModeChanged()
 {
     abandonZoomArea();
+    if (m_keyboardPart != 0)
+        chooseKeyboardPart(0);
     setNeedsDisplay();
     const bool axisSetting = m_outlets.document->isInAxisSettingMode();
     if (!axisSetting && m_forcedMode == TrimMode)
@@ -318,6 +329,7 @@ void GraphImageView::prefsChanged()
 void GraphImageView::windowWillClose()
 {
     giveUpOpening();
+    leavePointerToMouse();
     m_encoding.abandon();
     m_waitingForEncoding.clear();
     m_originalImage.reset();

@@ -25,6 +25,7 @@ class ImageViewGuide;
 class ImageViewInfoPanel;
 class ImageViewPrefs;
 class ImageViewSeries;
+class FocusFrame;
 class PdfOpener;
 class PictureOpener;
 class PictureScrollArea;
@@ -200,6 +201,14 @@ public:
     /// keys that arrive meanwhile act after it, when `anchorDragEnded` is sent.
     [[nodiscard]] bool isTrackingAnchorDrag() const { return m_trackingAnchorDrag; }
 
+    /// Whether the keyboard is used here: it brought the focus, or it moves the pointer.
+    [[nodiscard]] bool isUsedByKeyboard() const;
+    /// The pointer as the arrow keys move it, in picture points, y upwards; nothing while it is
+    /// the mouse's.
+    [[nodiscard]] std::optional<QPointF> keyboardPointer() const { return m_keyboardPointer; }
+    /// The code of the part of the axes that the arrow keys move, 0 for none.
+    [[nodiscard]] int keyboardPart() const { return m_keyboardPart; }
+
 Q_SIGNALS:
     void anchorDragEnded();
     /// The reading of a file in the background has ended; `taken` says whether its picture was
@@ -211,6 +220,10 @@ Q_SIGNALS:
     void mouseDownModeChanged(int mode);
     /// The pointer in picture coordinates, or nothing when it is not on the visible picture.
     void hoverChanged(std::optional<FloatPoint> inPicture);
+    /// Whether the keyboard is used here, or what it has chosen, was changed.
+    void keyboardChanged();
+    /// A key has moved the pointer; what follows the pointer is up to date.
+    void keyboardPointerMoved();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -219,6 +232,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     bool event(QEvent *event) override;
 
@@ -252,6 +266,19 @@ private:
     void abandonZoomArea();
     void drawZoomArea(QPainter &painter) const;
 
+    bool pointWithKey(const QKeyEvent &event);
+    [[nodiscard]] FloatPoint keyboardPointerInView() const;
+    [[nodiscard]] QPointF startOfKeyboardPointer() const;
+    void moveKeyboardPointer(QPointF way);
+    void setKeyboardPointer(QPointF inPicture);
+    void leavePointerToMouse();
+    void leavePointerToMovedMouse(QPoint globalPosition);
+    void chooseKeyboardPart(int part);
+    void moveKeyboardPart(QPointF way);
+    bool clickAtKeyboardPointer();
+    void drawKeyboardPointer(QPainter &painter) const;
+    void setFocusFrameShown(bool shown);
+
     void endDragging();
     void setHoveringDrag(HoveringDrag drag);
 
@@ -262,6 +289,7 @@ private:
     [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint windowPoint(QPointF widgetPosition) const;
     [[nodiscard]] FloatPoint pointerInView() const;
+    [[nodiscard]] bool isPointerOn(const FloatRect &rect, FloatPoint pointer) const;
     [[nodiscard]] int modeOfPress(Qt::KeyboardModifiers modifierFlags) const;
     void setMouseDownMode(int mode);
     void setHover(std::optional<FloatPoint> inPicture);
@@ -305,5 +333,9 @@ private:
     bool m_spaceIsHeld = false;
     std::optional<quint32> m_activatedAt; ///< when the window last became active, if it ever did
     std::optional<FloatPoint> m_hover;
+    FocusFrame *m_focusFrame; // owned by the viewport
+    std::optional<QPointF> m_keyboardPointer;
+    QPoint m_mouseAtKeyboard; ///< where the mouse rests on the desktop meanwhile
+    int m_keyboardPart = 0;
     QPointF m_movedTo; ///< where in the viewport the last move was, to the pixel
 };

@@ -71,6 +71,8 @@ FloatPoint GraphImageView::convertPointFromWindow(FloatPoint windowPoint) const
 
 FloatPoint GraphImageView::pointerInView() const
 {
+    if (m_keyboardPointer)
+        return keyboardPointerInView();
     // The desktop tells whole points, which are several pixels of a sharp screen.
     const QWidget *viewport = m_scrollArea.viewport();
     const QPointF whole =
@@ -78,6 +80,15 @@ FloatPoint GraphImageView::pointerInView() const
     const QPointF gone = m_movedTo - whole;
     const bool isLastMove = std::fabs(gone.x()) < 1 && std::fabs(gone.y()) < 1;
     return viewPoint(mapFrom(viewport, isLastMove ? m_movedTo : whole));
+}
+
+/// The keyboard can reach every edge of the picture.
+bool GraphImageView::isPointerOn(const FloatRect &rect, FloatPoint pointer) const
+{
+    if (!m_keyboardPointer)
+        return isPointerInside(pointer, rect);
+    return pointer.x >= rect.origin.x && pointer.x <= rect.origin.x + rect.size.width &&
+           pointer.y >= rect.origin.y && pointer.y <= rect.origin.y + rect.size.height;
 }
 
 int GraphImageView::mosueDownMode(Qt::KeyboardModifiers modifierFlags) const
@@ -126,6 +137,8 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
         return;
     if (!m_scaledImage)
         return;
+    leavePointerToMouse();
+    setFocusFrameShown(false);
     m_leftButtonIsDown = true;
     mouseDown(windowPoint(event->position()), viewPoint(event->position()),
               modeOfPress(event->modifiers()));
@@ -137,6 +150,7 @@ void GraphImageView::mousePressEvent(QMouseEvent *event)
 void GraphImageView::mouseMoveEvent(QMouseEvent *event)
 {
     m_movedTo = mapTo(m_scrollArea.viewport(), event->position());
+    leavePointerToMovedMouse(event->globalPosition().toPoint());
     if (!m_leftButtonIsDown)
         return;
     if (m_trackingAnchorDrag) {
@@ -263,39 +277,6 @@ void GraphImageView::abandonPress()
     resetMouse();
 }
 
-void GraphImageView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Space && hasImage()) {
-        m_spaceIsHeld = true;
-        return;
-    }
-    if (m_trackingAnchorDrag) {
-        m_keysDuringDrag.emplace_back(event->clone());
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && m_leftButtonIsDown && m_mouseDownMode > HandMode) {
-        abandonZoomArea();
-        return;
-    }
-    QWidget::keyPressEvent(event);
-}
-
-void GraphImageView::keyReleaseEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Space && m_spaceIsHeld) {
-        if (!event->isAutoRepeat())
-            m_spaceIsHeld = false;
-        return;
-    }
-    QWidget::keyReleaseEvent(event);
-}
-
-void GraphImageView::focusOutEvent(QFocusEvent *event)
-{
-    m_spaceIsHeld = false;
-    QWidget::focusOutEvent(event);
-}
-
 bool GraphImageView::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate) {
@@ -336,10 +317,11 @@ void GraphImageView::mouseCheckRoutine()
         setModeCursor(m_mouseDownMode);
         return;
     }
+    leavePointerToMovedMouse(m_outlets.document->desktop().pointerPosition());
     const FloatPoint pointer = pointerInView();
     // What the press began goes on whatever keys are held, also before the first move.
     const bool pressed = m_leftButtonIsDown;
-    if (!isPointerInside(pointer, m_scrollArea.visibleRect())) {
+    if (!isPointerOn(m_scrollArea.visibleRect(), pointer)) {
         m_outlets.cursorGuide->clearGuide();
         if (!pressed && m_mouseDownMode != DigitizeMode) {
             setCursor(Qt::ArrowCursor);
@@ -399,6 +381,8 @@ void GraphImageView::drawRect(QPainter &painter, const QRect &dirtyRect)
         drawPicture(painter, dirtyRect);
     else
         painter.fillRect(dirtyRect, Qt::white);
+    if (m_scaledImage)
+        drawKeyboardPointer(painter);
     if (m_becameDropTarget)
         drawDropVeil(painter, dirtyRect);
     else if (isDraggingZoomArea() || m_trimQuestionIsOpen)

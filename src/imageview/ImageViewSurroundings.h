@@ -4,6 +4,7 @@
 #include "platform/ChangeKind.h"
 
 #include <memory>
+#include <optional>
 
 class Desktop;
 class QPainter;
@@ -64,6 +65,16 @@ public:
     /// The last move of the drag, at the release.
     virtual void endDrag(FloatPoint now) = 0;
     [[nodiscard]] virtual bool isDragging() const = 0;
+
+    /// The part that follows (`direction` 1) or precedes (-1) `part` where parts are chosen by
+    /// keyboard; 0 stands for none.
+    [[nodiscard]] virtual int partBeside(int part, int direction) const = 0;
+    /// Where a part stands, in picture points; nothing for what is no part of the axes.
+    [[nodiscard]] virtual std::optional<FloatPoint> placeOfPart(int part) const = 0;
+    /// Moves a part as a drag by `way` (picture points) does. Moves of one part in a row are
+    /// undone as one, up to endMovesOfPart().
+    virtual void movePart(int part, FloatPoint way) = 0;
+    virtual void endMovesOfPart() = 0;
 
     /// The converter that the present settings make; null when they make none.
     [[nodiscard]] virtual std::shared_ptr<const ZKConvCoordinate> makeAxisConverter() = 0;

@@ -19,6 +19,16 @@ constexpr double pointsPerWheelClick = 60;
 constexpr double octavesPerWheelClick = 0.25;
 constexpr int pointsPerKey = 20;
 
+/// What is seen around a point that was brought into sight.
+constexpr float surroundings = 32;
+
+/// The origin next to `origin` with which a clip of `length` shows `place` and its surroundings.
+float originShowing(float place, float origin, float length)
+{
+    const float around = std::min(surroundings, length / 2);
+    return std::min(std::max(origin, place + around - length), place - around);
+}
+
 int rounded(float value) { return static_cast<int>(std::lround(value)); }
 
 } // namespace
@@ -97,6 +107,16 @@ void PictureScrollArea::scrollPoint(FloatPoint origin)
         m_wantedOrigin = origin;
     }
     layOut();
+}
+
+void PictureScrollArea::ensureVisible(FloatPoint point)
+{
+    const FloatSize clip = clipSize();
+    const FloatPoint origin = visibleOrigin();
+    const FloatPoint wanted = limited({originShowing(point.x, origin.x, clip.width),
+                                       originShowing(point.y, origin.y, clip.height)});
+    if (wanted != origin)
+        scrollPoint(wanted);
 }
 
 void PictureScrollArea::layOut()

@@ -43,6 +43,10 @@ public:
     /// goes.
     void scrollPoint(FloatPoint origin);
 
+    /// Scrolls as little as brings `point` (view coordinates) into sight, with some of what is
+    /// around it.
+    void ensureVisible(FloatPoint point);
+
 Q_SIGNALS:
     /// The user asks for a scale `factor` times the present one, about the pointer at
     /// `position` (this widget's viewport).

@@ -313,7 +313,7 @@ TEST_F(GraphImageViewMouseTest, keysDuringADragActAfterIt)
     area->scrollPoint({300, 200});
     press({500, 400});
     drag({3, 4});
-    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(area->visibleOrigin(), (FloatPoint{300, 200}));
     release();
     ASSERT_TRUE(QTest::qWaitFor([&] { return area->visibleOrigin() == FloatPoint{320, 200}; }));

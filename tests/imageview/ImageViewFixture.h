@@ -52,6 +52,7 @@ public:
     std::function<void()> whenAnchorRectsAreMade;
     bool dragging = false;
     FloatPoint dragStart;
+    FloatPoint placeOfOnlyPart{20, 30}; ///< of part 1, picture points
     std::vector<FloatPoint> dragPositions;
     std::vector<FloatPoint> guidePositions;
     std::shared_ptr<const ZKConvCoordinate> made;
@@ -120,6 +121,17 @@ public:
         dragging = false;
     }
     bool isDragging() const override { return dragging; }
+    int partBeside(int part, int direction) const override { return part + direction; }
+    std::optional<FloatPoint> placeOfPart(int part) const override
+    {
+        return part == 1 ? std::optional(placeOfOnlyPart) : std::nullopt;
+    }
+    void movePart(int /*part*/, FloatPoint way) override
+    {
+        note("movePart");
+        placeOfOnlyPart = {placeOfOnlyPart.x + way.x, placeOfOnlyPart.y + way.y};
+    }
+    void endMovesOfPart() override { note("endMovesOfPart"); }
     std::shared_ptr<const ZKConvCoordinate> makeAxisConverter() override
     {
         note("makeAxisConverter");
