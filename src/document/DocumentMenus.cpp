@@ -6,6 +6,7 @@
 #include "document/MyDocument.h"
 #include "document/RecentFilesMenu.h"
 #include "document/WindowListMenu.h"
+#include "imageview/GraphImageView.h"
 #include "imageview/MouseDownMode.h"
 #include "platform/Texts.h"
 #include "platform/UndoManager.h"
@@ -21,6 +22,23 @@ constexpr int noRule = 0;
 constexpr char tagProperty[] = "tag";
 
 QKeySequence keys(const char *text) { return QKeySequence(QString::fromLatin1(text)); }
+
+/// Hands the keys to the picture, from whatever field they go to now.
+QAction *addGoToPicture(MyDocument &document, QMenu &menu)
+{
+    QAction *action = menu.addAction(texts::localized("document.command.goToPicture"));
+    action->setObjectName(QStringLiteral("goToPicture"));
+    action->setProperty(tagProperty, menurules::PictureCommand);
+    action->setShortcut(keys("F6"));
+    QObject::connect(action, &QAction::triggered, &menu, [&document] {
+        document.perform(menurules::PictureCommand, [&document] {
+            // A picture that has the focus from a click does not show it yet.
+            document.graphView().clearFocus();
+            document.graphView().setFocus(Qt::ShortcutFocusReason);
+        });
+    });
+    return action;
+}
 
 } // namespace
 
@@ -172,6 +190,7 @@ void DocumentMenus::addViewMenu()
                          &MyDocument::showDigitizing})};
     for (QAction *tab : m_tabs)
         tab->setCheckable(true);
+    m_actions.push_back(addGoToPicture(m_document, *menu));
     menu->addSeparator();
     add(menu, {"zoomToActualSize",
                "document.command.actualSize",

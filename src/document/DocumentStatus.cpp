@@ -6,6 +6,7 @@
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
+#include "imageview/AccessiblePicture.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/MouseDownMode.h"
 #include "platform/NumberText.h"
@@ -34,6 +35,9 @@ DocumentStatus::DocumentStatus(MyDocument &document)
             [this] { showHint(); });
     connect(&document.graphView(), &GraphImageView::hoveringDragChanged, this,
             [this] { showHint(); });
+    connect(&document.graphView(), &GraphImageView::keyboardChanged, this, [this] { showHint(); });
+    connect(&document.graphView(), &GraphImageView::keyboardPointerMoved, this,
+            &DocumentStatus::speakPointer);
 }
 
 void DocumentStatus::refresh()
@@ -42,6 +46,7 @@ void DocumentStatus::refresh()
     showPositions();
     showSeries();
     showScale();
+    describePicture();
     m_document.window().showEmptyHint(!m_document.hasImage());
 }
 
@@ -97,6 +102,8 @@ QString DocumentStatus::hint() const
     const GraphImageView &view = m_document.graphView();
     if (QString mode = hintOfMode(); !mode.isEmpty())
         return mode;
+    if (view.isUsedByKeyboard() && (view.keyboardPointer() || !m_hover))
+        return hintOfKeys();
     if (m_document.isInAxisSettingMode()) {
         const float scale = view.imageScale();
         const QString part =
@@ -112,24 +119,73 @@ QString DocumentStatus::hint() const
         .arg(m_document.dataSeries().currentSeries() + 1);
 }
 
+// What the keys do on the picture.
+QString DocumentStatus::hintOfKeys() const
+{
+    const int part = m_document.graphView().keyboardPart();
+    if (part != 0)
+        return texts::localized("document.status.keysMovePart")
+            .arg(m_document.currentAxes().nameOfPart(part));
+    if (m_document.isInAxisSettingMode())
+        return texts::localized("document.status.keysAxes");
+    if (!m_document.cursorGuide().converter())
+        return texts::localized("document.status.noConverter");
+    return texts::localized("document.status.keysDigitize")
+        .arg(m_document.dataSeries().currentSeries() + 1);
+}
+
 void DocumentStatus::showHint() { m_document.window().status().setHint(hint()); }
+
+QString DocumentStatus::picturePosition() const
+{
+    return m_hover ? texts::localized("document.status.picture")
+                         .arg(number(m_hover->x), number(m_hover->y))
+                   : QString();
+}
+
+QString DocumentStatus::graphPosition() const
+{
+    const auto converter = m_document.cursorGuide().converter();
+    if (!m_hover || !converter || m_document.isInAxisSettingMode())
+        return {};
+    const FloatPoint data = m_document.cursorGuide().dataPointAt(*m_hover, 1.0F);
+    const bool polar = converter->converterType() == polarConverter;
+    return texts::localized(polar ? "document.status.graphPolar" : "document.status.graph")
+        .arg(number(data.x), number(data.y));
+}
 
 void DocumentStatus::showPositions()
 {
     StatusLine &status = m_document.window().status();
-    status.setPicturePosition(m_hover ? texts::localized("document.status.picture")
-                                            .arg(number(m_hover->x), number(m_hover->y))
-                                      : QString());
-    const auto converter = m_document.cursorGuide().converter();
-    if (!m_hover || !converter || m_document.isInAxisSettingMode()) {
-        status.setGraphPosition({});
-        return;
-    }
-    const FloatPoint data = m_document.cursorGuide().dataPointAt(*m_hover, 1.0F);
-    const bool polar = converter->converterType() == polarConverter;
-    status.setGraphPosition(
-        texts::localized(polar ? "document.status.graphPolar" : "document.status.graph")
-            .arg(number(data.x), number(data.y)));
+    status.setPicturePosition(picturePosition());
+    status.setGraphPosition(graphPosition());
+}
+
+// What a screen reader says of the picture.
+void DocumentStatus::describePicture()
+{
+    GraphImageView &view = m_document.graphView();
+    const FloatSize size = m_document.imageSize();
+    const char *page = m_document.isInAxisSettingMode() ? "document.picture.onAxisPage"
+                                                        : "document.picture.onDigitizingPage";
+    const QString text = m_document.hasImage()
+                             ? texts::localized(page).arg(number(size.width), number(size.height))
+                             : texts::localized("document.status.open");
+    if (view.accessibleDescription() != text)
+        view.setAccessibleDescription(text);
+}
+
+// The graph values of the pointer, and what the keys have chosen: said while the keys move it, for
+// the mouse would not let a screen reader finish.
+void DocumentStatus::speakPointer()
+{
+    GraphImageView &view = m_document.graphView();
+    const int part = view.keyboardPart();
+    const QString graph = graphPosition();
+    QString value = graph.isEmpty() ? picturePosition() : graph;
+    if (part != 0)
+        value = m_document.currentAxes().nameOfPart(part) + QStringLiteral(": ") + value;
+    accessiblepicture::setValue(view, value);
 }
 
 void DocumentStatus::showSeries()

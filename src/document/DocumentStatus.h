@@ -26,9 +26,14 @@ private:
     void showPositions();
     void showSeries();
     void showScale();
+    void describePicture();
+    void speakPointer();
+    [[nodiscard]] QString picturePosition() const;
+    [[nodiscard]] QString graphPosition() const;
     [[nodiscard]] QString hint() const;
     [[nodiscard]] QString hintOfDrag() const;
     [[nodiscard]] QString hintOfMode() const;
+    [[nodiscard]] QString hintOfKeys() const;
 
     MyDocument &m_document;
     std::optional<FloatPoint> m_hover; ///< the pointer in picture coordinates

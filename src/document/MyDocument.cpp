@@ -68,7 +68,11 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     showsChanged();
 }
 
-MyDocument::~MyDocument() = default;
+MyDocument::~MyDocument()
+{
+    // The picture loses the focus with its window, when what would show that cannot any more.
+    m_graphView->disconnect(m_status);
+}
 
 void MyDocument::makeComponents()
 {

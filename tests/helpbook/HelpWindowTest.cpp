@@ -3,6 +3,7 @@
 #include "helpbook/HelpBookViewer.h"
 #include "helpbook/SampleBook.h"
 #include "platform/UserDefaults.h"
+#include "support/ControlNames.h"
 
 #include <QAction>
 #include <QDialog>
@@ -287,4 +288,10 @@ TEST(HelpBookViewer, keepsOneWindow)
     viewer.openHelpAnchor(QString::fromLatin1(helpbook::axisSettings),
                           QString::fromLatin1(helpbook::bookName));
     EXPECT_EQ(viewer.window(), first);
+}
+
+TEST_F(HelpWindowTest, everyControlHasAName)
+{
+    show();
+    EXPECT_EQ(controlnames::unnamed(*window).join(u'\n').toStdString(), "");
 }

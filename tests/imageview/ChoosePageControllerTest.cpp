@@ -2,6 +2,7 @@
 
 #include "imageview/ChoosePdfView.h"
 #include "imageview/PageSource.h"
+#include "support/ControlNames.h"
 #include "ui_ChoosePagePanel.h"
 
 #include <QPointF>
@@ -206,6 +207,12 @@ TEST_F(ChoosePageControllerTest, returnElsewhereOpensThePage)
     EXPECT_TRUE(ended.picture);
     EXPECT_EQ(ends, 1);
     EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(ChoosePageControllerTest, everyControlHasAName)
+{
+    choose(12);
+    EXPECT_EQ(controlnames::unnamed(*panel).join(u'\n').toStdString(), "");
 }
 
 TEST_F(ChoosePageControllerTest, escapeCancels)

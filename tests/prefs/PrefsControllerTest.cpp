@@ -2,6 +2,7 @@
 
 #include "platform/NamedColors.h"
 #include "prefs/PreferenceKeys.h"
+#include "support/ControlNames.h"
 
 #include <QCheckBox>
 #include <QRegularExpression>
@@ -405,4 +406,13 @@ TEST_F(PrefsPanel, noBareKeyShows)
               << widget->property("text").toString() << widget->property("title").toString();
     }
     EXPECT_TRUE(texts.filter(QRegularExpression(QStringLiteral("prefs\\."))).isEmpty());
+}
+
+TEST_F(PrefsPanel, everyControlHasAName)
+{
+    m_controller.editPreferences();
+    EXPECT_EQ(controlnames::unnamed(*control<QCheckBox>("copyWithTitleCheck")->window())
+                  .join(u'\n')
+                  .toStdString(),
+              "");
 }

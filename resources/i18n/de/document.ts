@@ -788,5 +788,35 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
         <extracomment>First item of that submenu; the others are numbers.</extracomment>
         <translation>So viele wie nötig</translation>
     </message>
+    <message id="document.command.goToPicture">
+        <source>Go to &amp;Picture</source>
+        <extracomment>View menu: lets the keyboard work on the picture.</extracomment>
+        <translation>Zum &amp;Bild</translation>
+    </message>
+    <message id="document.status.keysMovePart">
+        <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
+        <translation>%1: mit Pfeiltasten bewegen (Umschalt 10, Alt 0.1); Bild↓ für das Nächste.</translation>
+    </message>
+    <message id="document.status.keysAxes">
+        <source>Page Down chooses an anchor, arrow keys move it.</source>
+        <extracomment>Status line while the keyboard is used on the picture.</extracomment>
+        <translation>Bild↓ wählt einen Anker, Pfeiltasten bewegen ihn.</translation>
+    </message>
+    <message id="document.status.keysDigitize">
+        <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
+        <translation>Pfeiltasten bewegen den Zeiger (Umschalt 10, Alt 0.1), Eingabe fügt Datenreihe %1 einen Punkt hinzu.</translation>
+    </message>
+    <message id="document.picture.onAxisPage">
+        <source>%1 by %2 pixels. Page: Axis Setting.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 mal %2 Pixel. Seite: Achsen.</translation>
+    </message>
+    <message id="document.picture.onDigitizingPage">
+        <source>%1 by %2 pixels. Page: Digitizing.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 mal %2 Pixel. Seite: Digitalisieren.</translation>
+    </message>
 </context>
 </TS>

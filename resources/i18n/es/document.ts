@@ -788,5 +788,35 @@ Versión %1. Software libre bajo la Licencia Pública General de GNU, versión 3
         <extracomment>First item of that submenu; the others are numbers.</extracomment>
         <translation>Tantas como hagan falta</translation>
     </message>
+    <message id="document.command.goToPicture">
+        <source>Go to &amp;Picture</source>
+        <extracomment>View menu: lets the keyboard work on the picture.</extracomment>
+        <translation>&amp;Ir a la imagen</translation>
+    </message>
+    <message id="document.status.keysMovePart">
+        <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
+        <translation>%1: flechas para mover (Mayús 10, Alt 0.1); Av Pág para el siguiente.</translation>
+    </message>
+    <message id="document.status.keysAxes">
+        <source>Page Down chooses an anchor, arrow keys move it.</source>
+        <extracomment>Status line while the keyboard is used on the picture.</extracomment>
+        <translation>Av Pág elige un ancla, las flechas la mueven.</translation>
+    </message>
+    <message id="document.status.keysDigitize">
+        <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
+        <translation>Las flechas mueven el puntero (Mayús 10, Alt 0.1), Intro añade un punto a la serie %1.</translation>
+    </message>
+    <message id="document.picture.onAxisPage">
+        <source>%1 by %2 pixels. Page: Axis Setting.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 por %2 píxeles. Página: Ejes.</translation>
+    </message>
+    <message id="document.picture.onDigitizingPage">
+        <source>%1 by %2 pixels. Page: Digitizing.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 por %2 píxeles. Página: Digitalizar.</translation>
+    </message>
 </context>
 </TS>

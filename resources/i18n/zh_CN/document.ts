@@ -788,5 +788,35 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>First item of that submenu; the others are numbers.</extracomment>
         <translation>按需要</translation>
     </message>
+    <message id="document.command.goToPicture">
+        <source>Go to &amp;Picture</source>
+        <extracomment>View menu: lets the keyboard work on the picture.</extracomment>
+        <translation>转到图片(&amp;P)</translation>
+    </message>
+    <message id="document.status.keysMovePart">
+        <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
+        <translation>%1：按方向键移动（Shift 10，Alt 0.1）；Page Down 选择下一个。</translation>
+    </message>
+    <message id="document.status.keysAxes">
+        <source>Page Down chooses an anchor, arrow keys move it.</source>
+        <extracomment>Status line while the keyboard is used on the picture.</extracomment>
+        <translation>Page Down 选择锚点，方向键移动锚点。</translation>
+    </message>
+    <message id="document.status.keysDigitize">
+        <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
+        <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
+        <translation>方向键移动指针（Shift 10，Alt 0.1），回车键向系列 %1 添加点。</translation>
+    </message>
+    <message id="document.picture.onAxisPage">
+        <source>%1 by %2 pixels. Page: Axis Setting.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 × %2 像素。页面：坐标轴设置。</translation>
+    </message>
+    <message id="document.picture.onDigitizingPage">
+        <source>%1 by %2 pixels. Page: Digitizing.</source>
+        <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
+        <translation>%1 × %2 像素。页面：数字化。</translation>
+    </message>
 </context>
 </TS>
