@@ -1,5 +1,6 @@
 #include "document/ChosenButtonStyle.h"
 
+#include <QPainter>
 #include <QStyleOption>
 
 namespace {
@@ -12,6 +13,17 @@ QColor mixed(const QColor &base, const QColor &added)
     const auto mix = [](float from, float to) { return from + (to - from) * tint; };
     return QColor::fromRgbF(mix(base.redF(), added.redF()), mix(base.greenF(), added.greenF()),
                             mix(base.blueF(), added.blueF()));
+}
+
+/// The bar at the edge of a button where its text begins.
+QRect barOf(const QStyleOption &button)
+{
+    constexpr int margin = 3;
+    constexpr int width = 3;
+    const QRect &all = button.rect;
+    return QStyle::visualRect(
+        button.direction, all,
+        QRect(all.left() + margin, all.top() + 2 * margin, width, all.height() - 4 * margin));
 }
 
 } // namespace
@@ -31,4 +43,8 @@ void ChosenButtonStyle::drawPrimitive(PrimitiveElement element, const QStyleOpti
     tinted.palette.setColor(QPalette::Button, mixed(option->palette.color(QPalette::Button),
                                                     option->palette.color(QPalette::Highlight)));
     QProxyStyle::drawPrimitive(element, &tinted, painter, widget);
+    // A flat button has a border only while it is chosen; the others show it by a bar too, for
+    // whoever does not see the tint.
+    if (!isFlat)
+        painter->fillRect(barOf(*option), option->palette.color(QPalette::ButtonText));
 }

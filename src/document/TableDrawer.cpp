@@ -38,7 +38,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         QColor line = palette().color(QPalette::WindowText);
-        line.setAlphaF(underMouse() ? 0.7F : 0.35F);
+        line.setAlphaF(underMouse() ? 0.9F : 0.6F);
         const qreal x = width() / 2.0;
         const qreal y = height() / 2.0;
         const qreal tip = m_drawer.isOpen() ? 2.0 : -2.0;
