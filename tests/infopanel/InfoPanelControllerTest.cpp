@@ -99,7 +99,7 @@ TEST_F(InfoPanel, staysTheApplicationsWhenOneThatNeverWasIsGone)
 TEST_F(InfoPanel, startsHiddenWithTheItemThatShowsIt)
 {
     EXPECT_FALSE(isVisible());
-    EXPECT_EQ(m_item.text().toStdString(), "Show Info Panel");
+    EXPECT_EQ(m_item.text().toStdString(), "Show I&nfo Panel");
     EXPECT_TRUE(m_prefs.saved.empty());
 }
 
@@ -138,11 +138,11 @@ TEST_F(InfoPanel, theItemShowsAndHidesAndTheSettingFollowsAtOnce)
 {
     m_item.trigger();
     EXPECT_TRUE(isVisible());
-    EXPECT_EQ(m_item.text().toStdString(), "Hide Info Panel");
+    EXPECT_EQ(m_item.text().toStdString(), "Hide I&nfo Panel");
     EXPECT_EQ(m_prefs.saved, std::vector<bool>({true}));
     m_item.trigger();
     EXPECT_FALSE(isVisible());
-    EXPECT_EQ(m_item.text().toStdString(), "Show Info Panel");
+    EXPECT_EQ(m_item.text().toStdString(), "Show I&nfo Panel");
     EXPECT_EQ(m_prefs.saved, std::vector<bool>({true, false}));
 }
 
@@ -150,7 +150,7 @@ TEST_F(InfoPanel, aPanelShownAtLaunchNamesTheItemWithoutSaving)
 {
     m_controller.setIsVisible(true);
     m_controller.infoVisibleChanged();
-    EXPECT_EQ(m_item.text().toStdString(), "Hide Info Panel");
+    EXPECT_EQ(m_item.text().toStdString(), "Hide I&nfo Panel");
     EXPECT_TRUE(m_prefs.saved.empty());
 }
 
@@ -161,7 +161,7 @@ TEST_F(InfoPanel, theCloseBoxSavesAndNamesTheItem)
     EXPECT_FALSE(isVisible());
     EXPECT_TRUE(m_controller.userClosedThePanel());
     EXPECT_EQ(m_prefs.saved, std::vector<bool>({true, false}));
-    EXPECT_EQ(m_item.text().toStdString(), "Show Info Panel");
+    EXPECT_EQ(m_item.text().toStdString(), "Show I&nfo Panel");
 }
 
 TEST_F(InfoPanel, comesBackByItsItemAfterTheCloseBox)

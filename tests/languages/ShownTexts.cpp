@@ -152,6 +152,15 @@ QStringList keysOfTwo(const QMenu &menu)
     return shared(owners);
 }
 
+QStringList withoutKey(const QMenu &menu)
+{
+    QStringList found;
+    for (const QAction *action : menu.actions())
+        if (!action->isSeparator() && QKeySequence::mnemonic(action->text()).isEmpty())
+            found += action->text();
+    return found;
+}
+
 QStringList bareKeys(const QWidget &root, const QStringList &keys)
 {
     QStringList found;

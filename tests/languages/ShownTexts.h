@@ -19,6 +19,9 @@ namespace showntexts {
 /// Keys that stand for two entries of a menu.
 [[nodiscard]] QStringList keysOfTwo(const QMenu &menu);
 
+/// The entries of a menu that no key stands for.
+[[nodiscard]] QStringList withoutKey(const QMenu &menu);
+
 /// The texts of `root` that are keys of a catalogue instead of what stands under them.
 [[nodiscard]] QStringList bareKeys(const QWidget &root, const QStringList &keys);
 

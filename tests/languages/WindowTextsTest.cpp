@@ -3,6 +3,7 @@
 #include "document/ApplicationPanels.h"
 #include "document/DocumentController.h"
 #include "document/DocumentWindow.h"
+#include "document/ExampleDocuments.h"
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
 #include "helpbook/HelpBookViewer.h"
@@ -247,13 +248,25 @@ TEST_P(WindowTexts, ofTheDocumentWindowHaveKeysOfTheirOwn)
 TEST_P(WindowTexts, ofTheMenusHaveKeysOfTheirOwn)
 {
     const auto expectKeysOfOne = [this] {
-        for (const QAction *menu : window().menuBar()->actions())
+        for (const QAction *menu : window().menuBar()->actions()) {
             EXPECT_EQ(showntexts::keysOfTwo(*menu->menu()).join(u'\n').toStdString(), "")
                 << qPrintable(menu->text());
+            EXPECT_EQ(showntexts::withoutKey(*menu->menu()).join(u'\n').toStdString(), "")
+                << qPrintable(menu->text());
+        }
     };
     expectKeysOfOne();
     command("showHideDataTable");
     expectKeysOfOne();
+}
+
+TEST_P(WindowTexts, ofTheExamplesHaveKeysOfTheirOwn)
+{
+    QMenu menu;
+    for (const exampledocuments::Example &example : exampledocuments::all())
+        menu.addAction(texts::localized(example.text));
+    EXPECT_EQ(showntexts::keysOfTwo(menu).join(u'\n').toStdString(), "");
+    EXPECT_EQ(showntexts::withoutKey(menu).join(u'\n').toStdString(), "");
 }
 
 TEST_P(WindowTexts, ofThePreferencesFit)

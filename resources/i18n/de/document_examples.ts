@@ -9,20 +9,20 @@
         <translation>Bei&amp;spiele</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>Gedämpfte Schwingung: lineare Achsen</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>&amp;Gedämpfte Schwingung: lineare Achsen</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>Wachstum einer Kultur: logarithmische Achse</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>&amp;Wachstum einer Kultur: logarithmische Achse</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>Schräges Diagramm: viereckige Achsen</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>&amp;Schräges Diagramm: viereckige Achsen</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>Kardioide: polare Achsen</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>&amp;Kardioide: polare Achsen</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

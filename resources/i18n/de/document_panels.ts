@@ -4,24 +4,24 @@
 <context>
     <name></name>
     <message id="document.command.preferences">
-        <source>Preferences…</source>
+        <source>Pr&amp;eferences…</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Einstellungen…</translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message id="document.command.help">
-        <source>Curvegrab X Help</source>
+        <source>&amp;Curvegrab X Help</source>
         <extracomment>Menu item: the first page of the help.</extracomment>
-        <translation>Hilfe zu Curvegrab X</translation>
+        <translation>&amp;Hilfe zu Curvegrab X</translation>
     </message>
     <message id="document.command.axisHelp">
-        <source>Help on Setting the Axes</source>
+        <source>Help on &amp;Setting the Axes</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Hilfe zum Festlegen der Achsen</translation>
+        <translation>Hilfe zum &amp;Festlegen der Achsen</translation>
     </message>
     <message id="document.command.digitizeHelp">
-        <source>Help on Digitizing</source>
+        <source>Help on &amp;Digitizing</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Hilfe zum Digitalisieren</translation>
+        <translation>Hilfe zum &amp;Digitalisieren</translation>
     </message>
 </context>
 </TS>

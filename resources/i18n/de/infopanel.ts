@@ -174,14 +174,14 @@
         <translation>Infos</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>Infofenster einblenden</translation>
+        <translation>&amp;Infofenster einblenden</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>Infofenster ausblenden</translation>
+        <translation>&amp;Infofenster ausblenden</translation>
     </message>
 </context>
 </TS>

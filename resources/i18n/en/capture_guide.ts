@@ -4,44 +4,44 @@
 <context>
     <name></name>
     <message id="LockXValue">
-        <source>Lock X Value</source>
+        <source>Lock &amp;X Value</source>
         <extracomment>Menu command: every new point takes the X value of the field.</extracomment>
-        <translation>Lock X Value</translation>
+        <translation>Lock &amp;X Value</translation>
     </message>
     <message id="UnlockXValue">
-        <source>Unlock X Value</source>
+        <source>Unlock &amp;X Value</source>
         <extracomment>Menu command: X follows the cursor again.</extracomment>
-        <translation>Unlock X Value</translation>
+        <translation>Unlock &amp;X Value</translation>
     </message>
     <message id="LockTValue">
-        <source>Lock θ Value</source>
+        <source>L&amp;ock θ Value</source>
         <extracomment>Menu command with polar axes: every new point takes the angle of the field.</extracomment>
-        <translation>Lock θ Value</translation>
+        <translation>L&amp;ock θ Value</translation>
     </message>
     <message id="UnlockTValue">
-        <source>Unlock θ Value</source>
+        <source>Unl&amp;ock θ Value</source>
         <extracomment>Menu command with polar axes: the angle follows the cursor again.</extracomment>
-        <translation>Unlock θ Value</translation>
+        <translation>Unl&amp;ock θ Value</translation>
     </message>
     <message id="LockYValue">
-        <source>Lock Y Value</source>
+        <source>Lock &amp;Y Value</source>
         <extracomment>Menu command: every new point takes the Y value of the field.</extracomment>
-        <translation>Lock Y Value</translation>
+        <translation>Lock &amp;Y Value</translation>
     </message>
     <message id="UnlockYValue">
-        <source>Unlock Y Value</source>
+        <source>Unlock &amp;Y Value</source>
         <extracomment>Menu command: Y follows the cursor again.</extracomment>
-        <translation>Unlock Y Value</translation>
+        <translation>Unlock &amp;Y Value</translation>
     </message>
     <message id="LockRValue">
-        <source>Lock R Value</source>
+        <source>Lock &amp;R Value</source>
         <extracomment>Menu command with polar axes: every new point takes the radius of the field.</extracomment>
-        <translation>Lock R Value</translation>
+        <translation>Lock &amp;R Value</translation>
     </message>
     <message id="UnlockRValue">
-        <source>Unlock R Value</source>
+        <source>Unlock &amp;R Value</source>
         <extracomment>Menu command with polar axes: the radius follows the cursor again.</extracomment>
-        <translation>Unlock R Value</translation>
+        <translation>Unlock &amp;R Value</translation>
     </message>
     <message id="capture.preview.name">
         <source>Marker preview</source>

@@ -9,20 +9,20 @@
         <translation>&amp;Examples</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>Damped Oscillation: Linear Axes</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>&amp;Damped Oscillation: Linear Axes</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>Growth of a Culture: Logarithmic Axis</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>&amp;Growth of a Culture: Logarithmic Axis</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>Chart at an Angle: Quadrangle Axes</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>Chart at an &amp;Angle: Quadrangle Axes</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>Cardioid: Polar Axes</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>&amp;Cardioid: Polar Axes</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

@@ -4,24 +4,24 @@
 <context>
     <name></name>
     <message id="document.command.preferences">
-        <source>Preferences…</source>
+        <source>Pr&amp;eferences…</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Preferences…</translation>
+        <translation>Pr&amp;eferences…</translation>
     </message>
     <message id="document.command.help">
-        <source>Curvegrab X Help</source>
+        <source>&amp;Curvegrab X Help</source>
         <extracomment>Menu item: the first page of the help.</extracomment>
-        <translation>Curvegrab X Help</translation>
+        <translation>&amp;Curvegrab X Help</translation>
     </message>
     <message id="document.command.axisHelp">
-        <source>Help on Setting the Axes</source>
+        <source>Help on &amp;Setting the Axes</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Help on Setting the Axes</translation>
+        <translation>Help on &amp;Setting the Axes</translation>
     </message>
     <message id="document.command.digitizeHelp">
-        <source>Help on Digitizing</source>
+        <source>Help on &amp;Digitizing</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Help on Digitizing</translation>
+        <translation>Help on &amp;Digitizing</translation>
     </message>
 </context>
 </TS>

@@ -174,14 +174,14 @@
         <translation>Info</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>Show Info Panel</translation>
+        <translation>Show I&amp;nfo Panel</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>Hide Info Panel</translation>
+        <translation>Hide I&amp;nfo Panel</translation>
     </message>
 </context>
 </TS>

@@ -4,44 +4,44 @@
 <context>
     <name></name>
     <message id="LockXValue">
-        <source>Lock X Value</source>
+        <source>Lock &amp;X Value</source>
         <extracomment>Menu command: every new point takes the X value of the field.</extracomment>
-        <translation>Fijar el valor de X</translation>
+        <translation>Fijar el valor de &amp;X</translation>
     </message>
     <message id="UnlockXValue">
-        <source>Unlock X Value</source>
+        <source>Unlock &amp;X Value</source>
         <extracomment>Menu command: X follows the cursor again.</extracomment>
-        <translation>Liberar el valor de X</translation>
+        <translation>Liberar el valor de &amp;X</translation>
     </message>
     <message id="LockTValue">
-        <source>Lock θ Value</source>
+        <source>L&amp;ock θ Value</source>
         <extracomment>Menu command with polar axes: every new point takes the angle of the field.</extracomment>
-        <translation>Fijar el valor de θ</translation>
+        <translation>Fijar el &amp;valor de θ</translation>
     </message>
     <message id="UnlockTValue">
-        <source>Unlock θ Value</source>
+        <source>Unl&amp;ock θ Value</source>
         <extracomment>Menu command with polar axes: the angle follows the cursor again.</extracomment>
-        <translation>Liberar el valor de θ</translation>
+        <translation>Liberar el &amp;valor de θ</translation>
     </message>
     <message id="LockYValue">
-        <source>Lock Y Value</source>
+        <source>Lock &amp;Y Value</source>
         <extracomment>Menu command: every new point takes the Y value of the field.</extracomment>
-        <translation>Fijar el valor de Y</translation>
+        <translation>Fijar el valor de &amp;Y</translation>
     </message>
     <message id="UnlockYValue">
-        <source>Unlock Y Value</source>
+        <source>Unlock &amp;Y Value</source>
         <extracomment>Menu command: Y follows the cursor again.</extracomment>
-        <translation>Liberar el valor de Y</translation>
+        <translation>Liberar el valor de &amp;Y</translation>
     </message>
     <message id="LockRValue">
-        <source>Lock R Value</source>
+        <source>Lock &amp;R Value</source>
         <extracomment>Menu command with polar axes: every new point takes the radius of the field.</extracomment>
-        <translation>Fijar el valor de R</translation>
+        <translation>Fijar el valor de &amp;R</translation>
     </message>
     <message id="UnlockRValue">
-        <source>Unlock R Value</source>
+        <source>Unlock &amp;R Value</source>
         <extracomment>Menu command with polar axes: the radius follows the cursor again.</extracomment>
-        <translation>Liberar el valor de R</translation>
+        <translation>Liberar el valor de &amp;R</translation>
     </message>
     <message id="capture.preview.name">
         <source>Marker preview</source>

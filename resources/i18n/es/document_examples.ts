@@ -9,20 +9,20 @@
         <translation>&amp;Ejemplos</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>Oscilación amortiguada: ejes lineales</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>&amp;Oscilación amortiguada: ejes lineales</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>Crecimiento de un cultivo: eje logarítmico</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>C&amp;recimiento de un cultivo: eje logarítmico</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>Gráfico en ángulo: ejes en cuadrilátero</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>&amp;Gráfico en ángulo: ejes en cuadrilátero</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>Cardioide: ejes polares</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>&amp;Cardioide: ejes polares</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

@@ -4,24 +4,24 @@
 <context>
     <name></name>
     <message id="document.command.preferences">
-        <source>Preferences…</source>
+        <source>Pr&amp;eferences…</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Preferencias…</translation>
+        <translation>Pre&amp;ferencias…</translation>
     </message>
     <message id="document.command.help">
-        <source>Curvegrab X Help</source>
+        <source>&amp;Curvegrab X Help</source>
         <extracomment>Menu item: the first page of the help.</extracomment>
-        <translation>Ayuda de Curvegrab X</translation>
+        <translation>Ay&amp;uda de Curvegrab X</translation>
     </message>
     <message id="document.command.axisHelp">
-        <source>Help on Setting the Axes</source>
+        <source>Help on &amp;Setting the Axes</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Ayuda sobre el ajuste de ejes</translation>
+        <translation>Ayuda sobre el ajuste de e&amp;jes</translation>
     </message>
     <message id="document.command.digitizeHelp">
-        <source>Help on Digitizing</source>
+        <source>Help on &amp;Digitizing</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Ayuda sobre la digitalización</translation>
+        <translation>Ayuda sobre la &amp;digitalización</translation>
     </message>
 </context>
 </TS>

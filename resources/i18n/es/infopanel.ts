@@ -174,14 +174,14 @@
         <translation>Información</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>Mostrar el panel de información</translation>
+        <translation>Mostrar el panel de in&amp;formación</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>Ocultar el panel de información</translation>
+        <translation>Ocultar el panel de in&amp;formación</translation>
     </message>
 </context>
 </TS>

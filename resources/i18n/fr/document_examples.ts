@@ -9,20 +9,20 @@
         <translation>&amp;Exemples</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>Oscillation amortie : axes linéaires</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>&amp;Oscillation amortie : axes linéaires</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>Croissance d’une culture : axe logarithmique</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>C&amp;roissance d’une culture : axe logarithmique</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>Graphique de biais : axes en quadrilatère</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>&amp;Graphique de biais : axes en quadrilatère</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>Cardioïde : axes polaires</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>&amp;Cardioïde : axes polaires</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

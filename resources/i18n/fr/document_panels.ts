@@ -4,24 +4,24 @@
 <context>
     <name></name>
     <message id="document.command.preferences">
-        <source>Preferences…</source>
+        <source>Pr&amp;eferences…</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Préférences…</translation>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message id="document.command.help">
-        <source>Curvegrab X Help</source>
+        <source>&amp;Curvegrab X Help</source>
         <extracomment>Menu item: the first page of the help.</extracomment>
-        <translation>Aide de Curvegrab X</translation>
+        <translation>&amp;Aide de Curvegrab X</translation>
     </message>
     <message id="document.command.axisHelp">
-        <source>Help on Setting the Axes</source>
+        <source>Help on &amp;Setting the Axes</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Aide sur le réglage des axes</translation>
+        <translation>Aide sur le &amp;réglage des axes</translation>
     </message>
     <message id="document.command.digitizeHelp">
-        <source>Help on Digitizing</source>
+        <source>Help on &amp;Digitizing</source>
         <extracomment>Menu item.</extracomment>
-        <translation>Aide sur la numérisation</translation>
+        <translation>Aide sur la &amp;numérisation</translation>
     </message>
 </context>
 </TS>

@@ -174,14 +174,14 @@
         <translation>Informations</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>Afficher les informations</translation>
+        <translation>Afficher les &amp;informations</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>Masquer les informations</translation>
+        <translation>Masquer les &amp;informations</translation>
     </message>
 </context>
 </TS>

@@ -9,20 +9,20 @@
         <translation>サンプル(&amp;E)</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>減衰振動: 線形軸</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>減衰振動: 線形軸(&amp;D)</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>培養の増殖: 対数軸</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>培養の増殖: 対数軸(&amp;G)</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>斜めのグラフ: 四角形軸</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>斜めのグラフ: 四角形軸(&amp;A)</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>カージオイド: 極座標軸</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>カージオイド: 極座標軸(&amp;C)</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

@@ -4,24 +4,24 @@
 <context>
     <name></name>
     <message id="document.command.preferences">
-        <source>Preferences…</source>
+        <source>Pr&amp;eferences…</source>
         <extracomment>Menu item.</extracomment>
-        <translation>設定…</translation>
+        <translation>設定(&amp;E)…</translation>
     </message>
     <message id="document.command.help">
-        <source>Curvegrab X Help</source>
+        <source>&amp;Curvegrab X Help</source>
         <extracomment>Menu item: the first page of the help.</extracomment>
-        <translation>Curvegrab X ヘルプ</translation>
+        <translation>Curvegrab X ヘルプ(&amp;C)</translation>
     </message>
     <message id="document.command.axisHelp">
-        <source>Help on Setting the Axes</source>
+        <source>Help on &amp;Setting the Axes</source>
         <extracomment>Menu item.</extracomment>
-        <translation>軸の設定のヘルプ</translation>
+        <translation>軸の設定のヘルプ(&amp;S)</translation>
     </message>
     <message id="document.command.digitizeHelp">
-        <source>Help on Digitizing</source>
+        <source>Help on &amp;Digitizing</source>
         <extracomment>Menu item.</extracomment>
-        <translation>数値化のヘルプ</translation>
+        <translation>数値化のヘルプ(&amp;D)</translation>
     </message>
 </context>
 </TS>

@@ -174,14 +174,14 @@
         <translation>情報</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>情報パネルを表示</translation>
+        <translation>情報パネルを表示(&amp;N)</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>情報パネルを隠す</translation>
+        <translation>情報パネルを隠す(&amp;N)</translation>
     </message>
 </context>
 </TS>

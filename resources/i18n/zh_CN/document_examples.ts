@@ -9,20 +9,20 @@
         <translation>示例(&amp;E)</translation>
     </message>
     <message id="document.example.linear">
-        <source>Damped Oscillation: Linear Axes</source>
-        <translation>阻尼振动：线性轴</translation>
+        <source>&amp;Damped Oscillation: Linear Axes</source>
+        <translation>阻尼振动：线性轴(&amp;D)</translation>
     </message>
     <message id="document.example.logarithmic">
-        <source>Growth of a Culture: Logarithmic Axis</source>
-        <translation>培养物的生长：对数轴</translation>
+        <source>&amp;Growth of a Culture: Logarithmic Axis</source>
+        <translation>培养物的生长：对数轴(&amp;G)</translation>
     </message>
     <message id="document.example.quadrangle">
-        <source>Chart at an Angle: Quadrangle Axes</source>
-        <translation>倾斜的图表：四边形坐标轴</translation>
+        <source>Chart at an &amp;Angle: Quadrangle Axes</source>
+        <translation>倾斜的图表：四边形坐标轴(&amp;A)</translation>
     </message>
     <message id="document.example.polar">
-        <source>Cardioid: Polar Axes</source>
-        <translation>心形线：极坐标轴</translation>
+        <source>&amp;Cardioid: Polar Axes</source>
+        <translation>心形线：极坐标轴(&amp;C)</translation>
     </message>
     <message id="document.empty.example">
         <source>&amp;Try an Example…</source>

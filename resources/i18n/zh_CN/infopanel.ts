@@ -174,14 +174,14 @@
         <translation>信息</translation>
     </message>
     <message id="ShowInfo">
-        <source>Show Info Panel</source>
+        <source>Show I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is hidden.</extracomment>
-        <translation>显示信息面板</translation>
+        <translation>显示信息面板(&amp;N)</translation>
     </message>
     <message id="HideInfo">
-        <source>Hide Info Panel</source>
+        <source>Hide I&amp;nfo Panel</source>
         <extracomment>Menu item, while the info panel is shown.</extracomment>
-        <translation>隐藏信息面板</translation>
+        <translation>隐藏信息面板(&amp;N)</translation>
     </message>
 </context>
 </TS>
