@@ -85,7 +85,9 @@ QString DocumentStatus::hintOfMode() const
     case ZoomOutMode:
         return texts::localized("document.status.zoomOut");
     case TrimMode:
-        return texts::localized("document.status.trim");
+        return texts::localized(m_document.graphView().isUsedByKeyboard()
+                                    ? "document.status.keysTrim"
+                                    : "document.status.trim");
     case MeasureMode:
         return texts::localized("document.status.measure");
     default:

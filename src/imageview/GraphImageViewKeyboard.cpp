@@ -42,7 +42,8 @@ void GraphImageView::keyPressEvent(QKeyEvent *event)
         abandonZoomArea();
         return;
     }
-    if (hasImage() && !m_leftButtonIsDown && pointWithKey(*event))
+    // A press of the mouse takes the pointer: only a rectangle that is drawn by keyboard goes on.
+    if (hasImage() && (!m_leftButtonIsDown || m_keyboardPointer) && pointWithKey(*event))
         return;
     QWidget::keyPressEvent(event);
 }
@@ -92,7 +93,7 @@ bool GraphImageView::pointWithKey(const QKeyEvent &event)
         return true;
     }
     const int direction = picturekeys::directionOf(event.key(), event.modifiers());
-    if (direction != 0 && m_outlets.document->isInAxisSettingMode()) {
+    if (direction != 0 && !m_leftButtonIsDown && m_outlets.document->isInAxisSettingMode()) {
         chooseKeyboardPart(m_outlets.currentAxes->partBeside(m_keyboardPart, direction));
         return true;
     }
@@ -145,6 +146,8 @@ void GraphImageView::setKeyboardPointer(QPointF inPicture)
     setFocusFrameShown(true);
     m_scrollArea.ensureVisible(keyboardPointerInView());
     setNeedsDisplay();
+    if (m_leftButtonIsDown)
+        mouseDragged(keyboardPointerInView());
     mouseCheckRoutine();
     Q_EMIT keyboardPointerMoved();
 }
@@ -153,6 +156,7 @@ void GraphImageView::leavePointerToMouse()
 {
     if (!m_keyboardPointer)
         return;
+    abandonPress();
     m_keyboardPointer.reset();
     m_keyboardPart = 0;
     m_outlets.currentAxes->endMovesOfPart();
@@ -189,10 +193,23 @@ void GraphImageView::moveKeyboardPart(QPointF way)
     setKeyboardPointer({static_cast<double>(place->x), static_cast<double>(place->y)});
 }
 
-/// Does what a click without keys does there; false where it does nothing.
+/// Does what a click without keys does there; where only a drag does something, begins it or ends
+/// it. False where there is nothing to do.
 bool GraphImageView::clickAtKeyboardPointer()
 {
+    if (m_leftButtonIsDown) {
+        m_leftButtonIsDown = false;
+        mouseUp();
+        return true;
+    }
     const int mode = modeOfPress(Qt::NoModifier);
+    if (mode == TrimMode) {
+        chooseKeyboardPart(0);
+        m_leftButtonIsDown = true;
+        // The way of the drag is the same in the window and in the view.
+        mouseDown(keyboardPointerInView(), keyboardPointerInView(), mode);
+        return true;
+    }
     if (mode != DigitizeMode && mode != ZoomInMode && mode != ZoomOutMode)
         return false;
     mouseDown({}, keyboardPointerInView(), mode);

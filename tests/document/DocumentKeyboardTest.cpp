@@ -215,3 +215,10 @@ TEST_F(DocumentKeyboard, theStatusLineTellsNoKeysOfThePictureInAField)
     test.document->graphView().setFocus(Qt::PopupFocusReason);
     EXPECT_TRUE(hint().startsWith(qtTrId("axes.part.maxx"))) << hint().toStdString();
 }
+
+TEST_F(DocumentKeyboard, theStatusLineTellsTheKeysOfTheTrimTool)
+{
+    test.command("chooseTrimTool");
+    key(Qt::Key_Right);
+    EXPECT_EQ(hint(), qtTrId("document.status.keysTrim"));
+}

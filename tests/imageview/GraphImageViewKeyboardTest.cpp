@@ -123,6 +123,53 @@ TEST_F(GraphImageViewKeyboardTest, returnWithAZoomToolZoomsAsAClickDoes)
     EXPECT_TRUE(around.appended.empty());
 }
 
+TEST_F(GraphImageViewKeyboardTest, returnBeginsAndEndsTheRectangleOfTheTrimTool)
+{
+    showPicture(400, 300, true);
+    view->setForcedMode(TrimMode);
+    pointAt({100, 200});
+    key(Qt::Key_Right);
+    key(Qt::Key_Return);
+    for (int i = 0; i < 5; ++i)
+        key(Qt::Key_Right, Qt::ShiftModifier);
+    for (int i = 0; i < 3; ++i)
+        key(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_TRUE(around.sheetsShown.empty());
+    key(Qt::Key_Return);
+    EXPECT_EQ(around.sheetsShown.size(), 1U);
+    around.answerSheet(SheetAnswer::Default);
+    EXPECT_EQ(view->imageSize(), (FloatSize{50, 30}));
+}
+
+TEST_F(GraphImageViewKeyboardTest, escGivesTheRectangleUp)
+{
+    showPicture(400, 300, true);
+    view->setForcedMode(TrimMode);
+    key(Qt::Key_Right);
+    key(Qt::Key_Return);
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    key(Qt::Key_Up, Qt::ShiftModifier);
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(view->keyboardPointer());
+    key(Qt::Key_Right);
+    EXPECT_EQ(view->zoomAreaRect().size, (FloatSize{0, 0}));
+    EXPECT_TRUE(around.sheetsShown.empty());
+}
+
+TEST_F(GraphImageViewKeyboardTest, theMouseGivesTheRectangleUpWhenItMoves)
+{
+    showPicture(400, 300, true);
+    view->setForcedMode(TrimMode);
+    key(Qt::Key_Right);
+    key(Qt::Key_Return);
+    key(Qt::Key_Up, Qt::ShiftModifier);
+    QTest::mouseMove(view, {50, 60});
+    EXPECT_FALSE(view->keyboardPointer());
+    key(Qt::Key_Right);
+    key(Qt::Key_Return); // begins another one
+    EXPECT_TRUE(around.sheetsShown.empty());
+}
+
 TEST_F(GraphImageViewKeyboardTest, theViewScrollsWithThePointer)
 {
     showPicture(1000, 800, false);

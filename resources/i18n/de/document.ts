@@ -796,17 +796,22 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
     <message id="document.status.keysMovePart">
         <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
-        <translation>%1: mit Pfeiltasten bewegen (Umschalt 10, Alt 0.1); Bild↓ für das Nächste.</translation>
+        <translation>%1: mit Pfeiltasten bewegen (Umschalt 10, Alt 0.1); Bild abwärts für das Nächste.</translation>
     </message>
     <message id="document.status.keysAxes">
         <source>Page Down chooses an anchor, arrow keys move it.</source>
         <extracomment>Status line while the keyboard is used on the picture.</extracomment>
-        <translation>Bild↓ wählt einen Anker, Pfeiltasten bewegen ihn.</translation>
+        <translation>Bild abwärts wählt einen Anker, Pfeiltasten bewegen ihn.</translation>
     </message>
     <message id="document.status.keysDigitize">
         <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
-        <translation>Pfeiltasten bewegen den Zeiger (Umschalt 10, Alt 0.1), Eingabe fügt Datenreihe %1 einen Punkt hinzu.</translation>
+        <translation>Pfeiltasten: Zeiger bewegen (Umschalt 10, Alt 0.1); Eingabetaste: Punkt zu Datenreihe %1.</translation>
+    </message>
+    <message id="document.status.keysTrim">
+        <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
+        <extracomment>Status line while the keyboard is used on the picture, with the trim tool.</extracomment>
+        <translation>Eingabetaste beginnt ein Rechteck, Pfeiltasten ziehen es auf, Eingabetaste schneidet zu.</translation>
     </message>
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>

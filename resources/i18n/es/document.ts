@@ -808,6 +808,11 @@ Versión %1. Software libre bajo la Licencia Pública General de GNU, versión 3
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
         <translation>Las flechas mueven el puntero (Mayús 10, Alt 0.1), Intro añade un punto a la serie %1.</translation>
     </message>
+    <message id="document.status.keysTrim">
+        <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
+        <extracomment>Status line while the keyboard is used on the picture, with the trim tool.</extracomment>
+        <translation>Intro empieza un rectángulo, las flechas lo trazan, Intro recorta la imagen.</translation>
+    </message>
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>
         <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>

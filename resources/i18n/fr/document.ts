@@ -796,17 +796,22 @@ Version %1. Logiciel libre sous licence publique générale GNU, version 3 ou ul
     <message id="document.status.keysMovePart">
         <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
-        <translation>%1 : flèches pour déplacer (Maj 10, Alt 0.1) ; Page suiv. pour le suivant.</translation>
+        <translation>%1 : flèches pour déplacer (Maj 10, Alt 0.1) ; Page bas pour le suivant.</translation>
     </message>
     <message id="document.status.keysAxes">
         <source>Page Down chooses an anchor, arrow keys move it.</source>
         <extracomment>Status line while the keyboard is used on the picture.</extracomment>
-        <translation>Page suivante choisit une ancre, les flèches la déplacent.</translation>
+        <translation>Page bas choisit une ancre, les flèches la déplacent.</translation>
     </message>
     <message id="document.status.keysDigitize">
         <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
         <translation>Les flèches déplacent le pointeur (Maj 10, Alt 0.1), Entrée ajoute un point à la série %1.</translation>
+    </message>
+    <message id="document.status.keysTrim">
+        <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
+        <extracomment>Status line while the keyboard is used on the picture, with the trim tool.</extracomment>
+        <translation>Entrée commence un rectangle, les flèches le tracent, Entrée rogne l’image.</translation>
     </message>
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>

@@ -808,6 +808,11 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
         <translation>矢印キーでポインターを動かし（Shift で 10、Alt で 0.1）、Enter で系列 %1 に点を追加します。</translation>
     </message>
+    <message id="document.status.keysTrim">
+        <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
+        <extracomment>Status line while the keyboard is used on the picture, with the trim tool.</extracomment>
+        <translation>Enter で範囲を始め、矢印キーで広げ、もう一度 Enter でトリミングします。</translation>
+    </message>
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>
         <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>

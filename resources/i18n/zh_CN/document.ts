@@ -806,7 +806,12 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.status.keysDigitize">
         <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
-        <translation>方向键移动指针（Shift 10，Alt 0.1），回车键向系列 %1 添加点。</translation>
+        <translation>方向键移动指针（Shift 10，Alt 0.1），回车向系列 %1 添加点。</translation>
+    </message>
+    <message id="document.status.keysTrim">
+        <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
+        <extracomment>Status line while the keyboard is used on the picture, with the trim tool.</extracomment>
+        <translation>按回车开始画矩形，用方向键拉开，再按回车裁剪图片。</translation>
     </message>
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>
