@@ -306,7 +306,7 @@
     <message id="axes.part.swing">
         <source>Corner that turns and resizes the disc</source>
         <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
-        <translation>Ecke, die die Scheibe dreht und vergrößert</translation>
+        <translation>Ecke für Drehung und Größe der Scheibe</translation>
     </message>
     <message id="axes.part.turn">
         <source>Handle that turns the radius</source>

@@ -306,12 +306,12 @@
     <message id="axes.part.swing">
         <source>Corner that turns and resizes the disc</source>
         <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
-        <translation>Coin qui tourne et redimensionne le disque</translation>
+        <translation>Coin qui fait tourner et redimensionne le disque</translation>
     </message>
     <message id="axes.part.turn">
         <source>Handle that turns the radius</source>
         <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
-        <translation>Poignée qui tourne le rayon</translation>
+        <translation>Poignée qui fait tourner le rayon</translation>
     </message>
     <message id="axes.part.size">
         <source>Handle for the length of the radius</source>

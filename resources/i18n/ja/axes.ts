@@ -231,7 +231,7 @@
     <message id="axes.part.maxx">
         <source>X maximum anchor</source>
         <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
-        <translation>X の最大のアンカー</translation>
+        <translation>X 最大値のアンカー</translation>
     </message>
     <message id="axes.part.far">
         <source>Corner opposite the origin</source>
@@ -241,7 +241,7 @@
     <message id="axes.part.maxy">
         <source>Y maximum anchor</source>
         <extracomment>Name of a part of the axes that the arrow keys move.</extracomment>
-        <translation>Y の最大のアンカー</translation>
+        <translation>Y 最大値のアンカー</translation>
     </message>
     <message id="axes.part.xaxis">
         <source>X axis</source>

@@ -796,7 +796,7 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.status.keysMovePart">
         <source>%1: move with arrow keys (Shift 10, Alt 0.1); Page Down for the next.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the name of the chosen part of the axes.</extracomment>
-        <translation>%1：矢印キーで移動（Shift で 10、Alt で 0.1）。Page Down で次へ。</translation>
+        <translation>%1: 矢印キーで移動 (Shift で 10、Alt で 0.1)。Page Down で次へ。</translation>
     </message>
     <message id="document.status.keysAxes">
         <source>Page Down chooses an anchor, arrow keys move it.</source>
@@ -806,7 +806,7 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.status.keysDigitize">
         <source>Arrow keys move the pointer (Shift 10, Alt 0.1), Return adds a point to series %1.</source>
         <extracomment>Status line while the keyboard is used on the picture. %1 is the number of the series.</extracomment>
-        <translation>矢印キーでポインターを動かし（Shift で 10、Alt で 0.1）、Enter で系列 %1 に点を追加します。</translation>
+        <translation>矢印キーでポインターを動かし (Shift で 10、Alt で 0.1)、Enter で系列 %1 に点を追加します。</translation>
     </message>
     <message id="document.status.keysTrim">
         <source>Return begins a rectangle, arrow keys draw it, Return again trims the picture to it.</source>
@@ -816,12 +816,12 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
     <message id="document.picture.onAxisPage">
         <source>%1 by %2 pixels. Page: Axis Setting.</source>
         <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
-        <translation>%1 × %2 ピクセル。ページ：軸の設定。</translation>
+        <translation>%1 × %2 ピクセル。ページ: 軸の設定。</translation>
     </message>
     <message id="document.picture.onDigitizingPage">
         <source>%1 by %2 pixels. Page: Digitizing.</source>
         <extracomment>What a screen reader says of the picture. %1 and %2 are its width and height in pixels.</extracomment>
-        <translation>%1 × %2 ピクセル。ページ：数値化。</translation>
+        <translation>%1 × %2 ピクセル。ページ: 数値化。</translation>
     </message>
 </context>
 </TS>
