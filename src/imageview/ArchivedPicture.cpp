@@ -138,6 +138,10 @@ ArchivedPicture::ArchivedPicture(ArchivedBytes bytes)
     : m_bytes(std::move(bytes))
 {}
 
+ArchivedPicture::ArchivedPicture(Picture picture)
+    : m_picture(std::move(picture))
+{}
+
 void ArchivedPicture::encodeWithCoder(SequentialEncoder &coder) const
 {
     coder.encodeBytes(m_bytes);
@@ -145,6 +149,8 @@ void ArchivedPicture::encodeWithCoder(SequentialEncoder &coder) const
 
 std::optional<FloatSize> ArchivedPicture::size() const
 {
+    if (m_picture)
+        return m_picture->size();
     if (!chunksAreThere(*m_bytes))
         return {};
     QByteArray bytes = rawBytes(*m_bytes);

@@ -30,6 +30,8 @@ public:
     initWithCoder(SequentialDecoder &coder);
 
     explicit ArchivedPicture(ArchivedBytes bytes);
+    /// A picture that nobody has encoded yet: it has no bytes, and is in no document's file.
+    explicit ArchivedPicture(Picture picture);
 
     [[nodiscard]] std::string_view className() const override { return archivedName; }
     void encodeWithCoder(SequentialEncoder &coder) const override;
@@ -47,6 +49,7 @@ public:
     /// The bytes as a picture, decoded once; nothing if they are damaged or there is no room.
     [[nodiscard]] std::optional<Picture> picture() const;
 
+    [[nodiscard]] bool isEncoded() const { return m_bytes != nullptr; }
     [[nodiscard]] const ArchivedBytes &bytes() const { return m_bytes; }
 
 private:

@@ -276,8 +276,9 @@ bool GraphImageView::loadFromData(const ArchiveDictionary *stored)
     m_archivedImage =
         std::dynamic_pointer_cast<const ArchivedPicture>(stored->objectForKey("Original Image"));
     m_originalImage = m_archivedImage != nullptr ? m_archivedImage->picture() : std::nullopt;
-    if (!m_originalImage) {
+    if (!m_originalImage || !m_archivedImage->isEncoded())
         m_archivedImage.reset();
+    if (!m_originalImage) {
         m_scaledImage.reset();
         m_scrollArea.setDocumentSize({});
     }

@@ -90,6 +90,8 @@ public:
     void awakeFromNib();
 
     [[nodiscard]] bool hasImage() const;
+    /// The picture as loaded, or nothing.
+    [[nodiscard]] const std::optional<Picture> &originalImage() const { return m_originalImage; }
     /// The size of the picture as loaded, or the zero size without one.
     [[nodiscard]] FloatSize imageSize() const;
     /// The size as shown, in view points, or the zero size without a picture.

@@ -74,6 +74,18 @@ void ReadingProgress::keyPressEvent(QKeyEvent *event)
         QFrame::keyPressEvent(event);
 }
 
+void ReadingProgress::showEvent(QShowEvent *event)
+{
+    QFrame::showEvent(event);
+    Q_EMIT visibilityChanged(true);
+}
+
+void ReadingProgress::hideEvent(QHideEvent *event)
+{
+    QFrame::hideEvent(event);
+    Q_EMIT visibilityChanged(false);
+}
+
 bool ReadingProgress::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == parent() && event->type() == QEvent::Resize)

@@ -23,9 +23,13 @@ public:
 
 Q_SIGNALS:
     void cancelled();
+    /// The panel has come or gone.
+    void visibilityChanged(bool visible);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -92,13 +92,14 @@ std::optional<int> writeNameless(const QString &path, const QByteArray &bytes)
 }
 
 /// The same by a file whose name begins with the target's; a kill leaves it there.
-std::optional<QString> writeBeside(const QFileInfo &target, const QByteArray &bytes)
+std::optional<QString> writeBeside(const QFileInfo &target,
+                                   const std::function<bool(QIODevice &)> &produce)
 {
     QSaveFile file(target.filePath());
     if (!file.open(QIODevice::WriteOnly))
         return reasonToOpen(file, target);
     errno = 0;
-    if (file.write(bytes) != bytes.size() || !file.flush())
+    if (!produce(file) || !file.flush())
         return errno != 0 ? systemReason(errno) : file.errorString();
     if (const int number = flushToDisk(file.handle()); number != 0)
         return systemReason(number);
@@ -130,7 +131,17 @@ std::optional<QString> write(const QString &path, const QByteArray &bytes)
         if (const std::optional<int> number = writeNameless(real, bytes))
             return *number == 0 ? std::nullopt : std::optional(systemReason(*number));
     }
-    return writeBeside(target, bytes);
+    return writeBeside(target, [&bytes](QIODevice &file) { //
+        return file.write(bytes) == bytes.size();
+    });
+}
+
+std::optional<QString> write(const QString &path, const std::function<bool(QIODevice &)> &produce)
+{
+    const QFileInfo target(path);
+    if (target.isDir())
+        return texts::localized("platform.file.isFolder");
+    return writeBeside(target, produce);
 }
 
 } // namespace durablefile

@@ -4,7 +4,10 @@
 #include <QDateTime>
 #include <QString>
 
+#include <functional>
 #include <optional>
+
+class QIODevice;
 
 /// Files that are whole whatever happens: the old content or the new one, also after a kill or a
 /// power cut.
@@ -26,5 +29,10 @@ struct Stamp
 /// permissions stay, and a link stays a link. Nothing when it worked; otherwise the reason in the
 /// user's words, and the old file is untouched.
 [[nodiscard]] std::optional<QString> write(const QString &path, const QByteArray &bytes);
+
+/// The same with what `produce` writes, piece by piece, which is false where the file takes no
+/// more.
+[[nodiscard]] std::optional<QString> write(const QString &path,
+                                           const std::function<bool(QIODevice &)> &produce);
 
 } // namespace durablefile

@@ -1,0 +1,91 @@
+#include "imageview/RawPicture.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr std::uint64_t plenty = 1U << 30U;
+
+class RawPictureTest : public testing::Test
+{
+protected:
+    static Picture sample(QImage::Format format, FloatSize size = {400, 300})
+    {
+        QImage image(400, 300, QImage::Format_RGB32);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                image.setPixel(x, y, qRgb(x * 7 % 256, y * 5 % 256, (x + y) % 256));
+        return *Picture::fromPixels(image.convertToFormat(format), size);
+    }
+
+    void put(const Picture &picture) const
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(rawpicture::write(picture, file));
+    }
+
+    void expectTheSame(const Picture &picture) const
+    {
+        put(picture);
+        EXPECT_TRUE(rawpicture::isRaw(path()));
+        const std::optional<Picture> read = rawpicture::read(path(), plenty);
+        ASSERT_TRUE(read);
+        EXPECT_EQ(read->pixels(), picture.pixels());
+        EXPECT_EQ(read->pixels().format(), picture.pixels().format());
+        EXPECT_EQ(read->size(), picture.size());
+    }
+
+    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("1.picture")); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(RawPictureTest, keepsEveryPixel) { expectTheSame(sample(QImage::Format_RGB32)); }
+
+TEST_F(RawPictureTest, keepsGrayGray) { expectTheSame(sample(QImage::Format_Grayscale8)); }
+
+TEST_F(RawPictureTest, keepsASizeWithFractions)
+{
+    expectTheSame(sample(QImage::Format_RGB32, {399.7F, 299.0001F}));
+}
+
+TEST_F(RawPictureTest, cutBytesGiveNoPicture)
+{
+    put(sample(QImage::Format_RGB32));
+    QFile file(path());
+    for (qint64 length = file.size() - 1; length > 0; length = length / 3) {
+        ASSERT_TRUE(file.resize(length));
+        EXPECT_FALSE(rawpicture::read(path(), plenty)) << length;
+    }
+}
+
+TEST_F(RawPictureTest, aPictureThatDoesNotFitIsNotRead)
+{
+    put(sample(QImage::Format_RGB32));
+    EXPECT_FALSE(rawpicture::read(path(), 100'000));
+}
+
+TEST_F(RawPictureTest, otherFilesAreNotRaw)
+{
+    QFile file(path());
+    EXPECT_FALSE(rawpicture::isRaw(path()));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\x89PNG\r\n\x1a\n");
+    file.close();
+    EXPECT_FALSE(rawpicture::isRaw(path()));
+    EXPECT_FALSE(rawpicture::read(path(), plenty));
+}
+
+TEST_F(RawPictureTest, aDeviceThatTakesNothingIsTold)
+{
+    QBuffer closed;
+    EXPECT_FALSE(rawpicture::write(sample(QImage::Format_RGB32), closed));
+}
