@@ -3,6 +3,7 @@
 #include "capture/SeriesArchive.h"
 #include "conversion/ZKConvCoordinate.h"
 #include "document/DocumentKeys.h"
+#include "imageview/ArchivedPicture.h"
 #include "platform/Texts.h"
 
 #include <QCborStreamWriter>
@@ -230,10 +231,30 @@ QByteArray archivedData(const ArchiveDictionary &root)
     return bytes;
 }
 
-bool offersSomething(const ArchiveDictionary &root)
+std::shared_ptr<const ArchivedPicture> pictureIn(const ArchiveDictionary &root)
 {
     const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
-    if (view != nullptr && view->objectForKey("Original Image") != nullptr)
+    return view == nullptr ? nullptr
+                           : std::dynamic_pointer_cast<const ArchivedPicture>(
+                                 view->objectForKey(documentkeys::originalImage));
+}
+
+void dropPicture(ArchiveDictionary &root)
+{
+    const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
+    if (view == nullptr)
+        return;
+    ArchiveDictionary rest;
+    for (const auto &[key, value] : view->entries()) {
+        if (key != documentkeys::originalImage)
+            rest.set(key, value);
+    }
+    root.set(documentkeys::graphImageViewData, {std::move(rest)});
+}
+
+bool offersSomething(const ArchiveDictionary &root)
+{
+    if (pictureIn(root) != nullptr)
         return true;
     const ArchiveDictionary *series = root.dictionaryForKey(documentkeys::dataSeriesData);
     return series != nullptr && seriesarchive::storeFromData(*series).maxRows() > 0;

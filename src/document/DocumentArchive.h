@@ -6,8 +6,11 @@
 #include <QString>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
+
+class ArchivedPicture;
 
 /// The bytes of a document file: the archive tree as one CBOR item. docs/file-format.md tells
 /// strangers how to read it. Needs no window and no display; a picture stays encoded.
@@ -53,6 +56,12 @@ struct Reading
 
 /// Reads a file of any content, however damaged or hostile.
 [[nodiscard]] Reading unarchived(const QByteArray &bytes);
+
+/// The picture of a document; null without one.
+[[nodiscard]] std::shared_ptr<const ArchivedPicture> pictureIn(const ArchiveDictionary &root);
+
+/// Leaves the picture out, and all else as it is.
+void dropPicture(ArchiveDictionary &root);
 
 /// Whether a damaged reading still holds something worth offering: a picture or a point.
 [[nodiscard]] bool offersSomething(const ArchiveDictionary &root);

@@ -1,6 +1,7 @@
 #include "document/DocumentContents.h"
 
 #include "capture/SeriesArchive.h"
+#include "document/DocumentArchive.h"
 #include "document/DocumentFile.h"
 #include "document/DocumentKeys.h"
 #include "imageview/ArchivedPicture.h"
@@ -32,30 +33,14 @@ DocumentContents::Axes axesFrom(const ArchiveDictionary &data)
     return axes;
 }
 
-DocumentContents::Guide guideFrom(const ArchiveDictionary &data)
+std::optional<DocumentContents::PictureFacts> pictureFrom(const ArchiveDictionary &root)
 {
-    DocumentContents::Guide guide;
-    guide.autoXMode = data.intForKey("Auto X Value Mode");
-    guide.lockX = data.boolForKey("Lock X Value");
-    guide.lockY = data.boolForKey("Lock Y Value");
-    guide.initialX = data.doubleForKey("Initial X Value");
-    guide.stepX = data.doubleForKey("Step X Value");
-    guide.currentX = data.doubleForKey("Current X Value");
-    guide.currentY = data.doubleForKey("Current Y Value");
-    guide.converter =
-        std::dynamic_pointer_cast<const ZKConvCoordinate>(data.objectForKey("Current Converter"));
-    return guide;
-}
-
-std::optional<DocumentContents::PictureFacts> pictureFrom(const ArchiveDictionary &data)
-{
-    const auto picture =
-        std::dynamic_pointer_cast<const ArchivedPicture>(data.objectForKey("Original Image"));
+    const auto picture = documentarchive::pictureIn(root);
     const std::optional<FloatSize> size = picture == nullptr ? std::nullopt : picture->size();
     if (!size)
         return std::nullopt;
-    return DocumentContents::PictureFacts{*size, data.floatForKey("Image Scale"),
-                                          data.floatForKey("Rotation Angle")};
+    const auto *view = root.dictionaryForKey(documentkeys::graphImageViewData);
+    return DocumentContents::PictureFacts{*size, view->floatForKey("Rotation Angle")};
 }
 
 } // namespace
@@ -63,12 +48,9 @@ std::optional<DocumentContents::PictureFacts> pictureFrom(const ArchiveDictionar
 DocumentContents DocumentContents::fromRoot(const ArchiveDictionary &root)
 {
     DocumentContents contents;
-    if (const ArchiveDictionary *data = root.dictionaryForKey(documentkeys::graphImageViewData))
-        contents.picture = pictureFrom(*data);
+    contents.picture = pictureFrom(root);
     if (const ArchiveDictionary *data = root.dictionaryForKey(documentkeys::currentAxesData))
         contents.axes = axesFrom(*data);
-    if (const ArchiveDictionary *data = root.dictionaryForKey(documentkeys::cursorGuideData))
-        contents.guide = guideFrom(*data);
     if (const ArchiveDictionary *data = root.dictionaryForKey(documentkeys::dataSeriesData)) {
         contents.series = seriesarchive::storeFromData(*data);
         contents.currentSeries = data->intForKey("Current Series");
@@ -79,7 +61,7 @@ DocumentContents DocumentContents::fromRoot(const ArchiveDictionary &root)
 ReadDocumentFile readDocument(const QByteArray &bytes)
 {
     const documentarchive::Reading reading = documentarchive::unarchived(bytes);
-    ReadDocumentFile result{{}, documentarchive::description(reading.damages), reading.damages};
+    ReadDocumentFile result{{}, documentarchive::description(reading.damages)};
     if (reading.isWhole() || !reading.root.entries().empty())
         result.contents = DocumentContents::fromRoot(reading.root);
     return result;
@@ -89,6 +71,6 @@ ReadDocumentFile readDocumentFile(const QString &path)
 {
     const documentfile::Content content = documentfile::contentOf(path, picturememory::available());
     if (!content.error.isEmpty())
-        return {{}, content.error, {}};
+        return {{}, content.error};
     return readDocument(content.bytes);
 }

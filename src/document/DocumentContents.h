@@ -3,15 +3,12 @@
 #include "archiving/ArchiveTree.h"
 #include "axes/Anchors.h"
 #include "capture/SeriesStore.h"
-#include "document/DocumentArchive.h"
 #include "geometry/FloatGeometry.h"
 
 #include <QByteArray>
 #include <QString>
 
-#include <memory>
 #include <optional>
-#include <vector>
 
 /// What a document file says, for those who have no window: the picture is not decoded.
 struct DocumentContents
@@ -30,29 +27,15 @@ struct DocumentContents
         bool isCounterClockwise = false;
     };
 
-    struct Guide
-    {
-        int autoXMode = 0;
-        bool lockX = false;
-        bool lockY = false;
-        double initialX = 0;
-        double stepX = 0;
-        double currentX = 0;
-        double currentY = 0;
-        std::shared_ptr<const ZKConvCoordinate> converter;
-    };
-
     struct PictureFacts
     {
         FloatSize size;     ///< in points, not rotated
-        float scale = 1;    ///< of the display
         float rotation = 0; ///< degrees, counter-clockwise
     };
 
     SeriesStore series;
     int currentSeries = 0;
     Axes axes;
-    Guide guide;
     std::optional<PictureFacts> picture; ///< nothing without a picture
 
     /// What a root dictionary says; what is missing is 0, off or empty.
@@ -65,7 +48,6 @@ struct ReadDocumentFile
     std::optional<DocumentContents> contents; ///< nothing if there is no such file or no document
     /// Why the file could not be read, or not whole, in the user's words; empty if all is well.
     QString error;
-    std::vector<documentarchive::Damage> damages;
 };
 
 /// Reads a document from the bytes of its file. A damaged one gives what is left, and an error.

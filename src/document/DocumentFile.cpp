@@ -24,8 +24,6 @@ constexpr qint64 pieceSize = qint64{4} << 20;
 /// The picture, which is most of a large document, is copied out of the file's bytes.
 constexpr std::uint64_t bytesNeededPerByte = 2;
 
-constexpr char originalImage[] = "Original Image";
-
 bool fits(qint64 size, std::uint64_t memoryLimit)
 {
     return static_cast<std::uint64_t>(size) <= memoryLimit / bytesNeededPerByte;
@@ -47,18 +45,6 @@ bool readAll(QFile &file, QByteArray &bytes, std::uint64_t memoryLimit, const st
     }
     bytes.clear();
     return true;
-}
-
-/// The root without its picture.
-void dropPicture(ArchiveDictionary &root)
-{
-    ArchiveDictionary view;
-    for (const auto &[key, value] :
-         root.dictionaryForKey(documentkeys::graphImageViewData)->entries()) {
-        if (key != originalImage)
-            view.set(key, value);
-    }
-    root.set(documentkeys::graphImageViewData, {view});
 }
 
 } // namespace
@@ -90,18 +76,14 @@ Content contentOf(const QString &path, std::uint64_t memoryLimit, const std::sto
 void decodePicture(Reading &reading, std::uint64_t memoryLimit, const std::stop_token &stop,
                    std::atomic<int> *percentDecoded)
 {
-    const ArchiveDictionary *view = reading.root.dictionaryForKey(documentkeys::graphImageViewData);
-    if (view == nullptr)
-        return;
-    const auto picture =
-        std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey(originalImage));
+    const auto picture = documentarchive::pictureIn(reading.root);
     if (picture == nullptr)
         return;
     const std::optional<PictureProblem> problem =
         picture->decode(memoryLimit, stop, percentDecoded);
     if (!problem)
         return;
-    dropPicture(reading.root);
+    documentarchive::dropPicture(reading.root);
     const Fault fault =
         problem == PictureProblem::TooLarge ? Fault::PictureTooLarge : Fault::DamagedPicture;
     reading.damages.push_back({fault, documentkeys::graphImageViewData, 0});

@@ -13,4 +13,7 @@ inline constexpr char currentAxesData[] = "CurrentAxes Data";
 inline constexpr char cursorGuideData[] = "CursorGuide Data";
 inline constexpr char dataSeriesData[] = "DataSeries Data";
 
+/// In the dictionary of the picture view: the picture.
+inline constexpr char originalImage[] = "Original Image";
+
 } // namespace documentkeys

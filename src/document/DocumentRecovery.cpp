@@ -1,6 +1,5 @@
 #include "document/DocumentRecovery.h"
 
-#include "document/DocumentKeys.h"
 #include "document/MyDocument.h"
 #include "document/RecoveryStore.h"
 #include "imageview/ArchivedPicture.h"
@@ -15,14 +14,8 @@
 
 namespace {
 
-// Many changes in a row are kept together; the picture's encoding may take a while longer.
+// Many changes in a row are kept together.
 constexpr std::chrono::seconds delay{2};
-
-std::shared_ptr<const ArchivedPicture> pictureOf(const ArchiveDictionary &root)
-{
-    const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
-    return std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image"));
-}
 
 } // namespace
 
@@ -65,8 +58,7 @@ void DocumentRecovery::keepNow(const QString &insteadOf)
     keep();
 }
 
-// Encoding a large picture may take longer than the changes can wait: they are kept without it, and
-// with it as soon as it is encoded.
+// Encoding a large picture takes longer than a crash waits: it need not be encoded for this.
 void DocumentRecovery::keep()
 {
     m_timer.stop();
@@ -78,20 +70,16 @@ void DocumentRecovery::keep()
         tellOnce(texts::localized("document.recovery.noFolder"));
         return;
     }
-    const bool isComplete = m_document.graphView().pictureIsEncoded();
-    const ArchiveDictionary root =
-        isComplete ? m_document.rootDictionary() : m_document.rootDictionaryAsFarAsEncoded();
+    const GraphImageView &view = m_document.graphView();
+    const ArchiveDictionary root = view.pictureIsEncoded()
+                                       ? m_document.rootDictionary()
+                                       : m_document.rootDictionaryAsFarAsEncoded();
     m_writer.keep({m_key,
                    {root, m_document.fileUrl().toLocalFile(), m_document.displayName(),
                     m_document.fileStamp()},
-                   pictureOf(root),
-                   isComplete ? m_replaces : QString()});
-    if (isComplete || std::exchange(m_awaitsEncoding, true))
-        return;
-    m_document.graphView().encodePicture([this] {
-        m_awaitsEncoding = false;
-        keep();
-    });
+                   view.originalImage(),
+                   documentarchive::pictureIn(root),
+                   m_replaces});
 }
 
 void DocumentRecovery::tellOnce(const QString &reason)

@@ -38,6 +38,5 @@ private:
     QTimer m_timer;
     QString m_key;      ///< empty: nothing is kept
     QString m_replaces; ///< another key, which this document takes the place of; or empty
-    bool m_awaitsEncoding = false;
     bool m_wasTold = false;
 };

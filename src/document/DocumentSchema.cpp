@@ -73,7 +73,7 @@ constexpr std::array viewEntries{
     Entry{"Scrolled Position", isText},
     Entry{"Image Scale", isNumber},
     Entry{"Rotation Angle", isNumber},
-    Entry{"Original Image", isPicture},
+    Entry{documentkeys::originalImage, isPicture},
 };
 
 constexpr std::array tableEntries{Entry{"Column Widths", isArrayOf<isNumber>}};

@@ -6,6 +6,7 @@
 #include "document/RecoveryThread.h"
 #include "imageview/ArchivedPicture.h"
 #include "imageview/PictureMemory.h"
+#include "imageview/RawPicture.h"
 #include "platform/Texts.h"
 
 #include <QDateTime>
@@ -27,7 +28,6 @@ constexpr char pathKey[] = "Recovery Path";
 constexpr char nameKey[] = "Recovery Name";
 constexpr char fileSizeKey[] = "Recovery File Size";
 constexpr char fileTimeKey[] = "Recovery File Time";
-constexpr char originalImage[] = "Original Image";
 
 QString lockOf(const QString &sessionFolder)
 {
@@ -56,29 +56,36 @@ std::optional<durablefile::Stamp> stampIn(const ArchiveDictionary &root)
     return durablefile::Stamp{*size, QDateTime::fromMSecsSinceEpoch(*time)};
 }
 
+std::shared_ptr<const Archivable> encodedPicture(const QByteArray &content)
+{
+    const auto *first = reinterpret_cast<const std::byte *>(content.constData());
+    return std::make_shared<ArchivedPicture>(
+        std::make_shared<const std::vector<std::byte>>(first, first + content.size()));
+}
+
+/// The picture that was kept in the file at `path`; null if there is none. No bytes stand for one
+/// that is damaged.
+std::shared_ptr<const Archivable> pictureFrom(const QString &path)
+{
+    if (rawpicture::isRaw(path)) {
+        if (auto picture = rawpicture::read(path, picturememory::available()))
+            return std::make_shared<ArchivedPicture>(*std::move(picture));
+        return encodedPicture({});
+    }
+    const QByteArray content = documentfile::contentOf(path, picturememory::available()).bytes;
+    return content.isEmpty() ? nullptr : encodedPicture(content);
+}
+
 void putPicture(ArchiveDictionary &root, const QString &path)
 {
-    const QByteArray content = documentfile::contentOf(path, picturememory::available()).bytes;
-    if (content.isEmpty())
+    const std::shared_ptr<const Archivable> picture = pictureFrom(path);
+    if (picture == nullptr)
         return;
-    const auto *first = reinterpret_cast<const std::byte *>(content.constData());
-    auto bytes = std::make_shared<const std::vector<std::byte>>(first, first + content.size());
     ArchiveDictionary view;
     if (const auto *stored = root.dictionaryForKey(documentkeys::graphImageViewData))
         view = *stored;
-    view.set(originalImage,
-             {std::shared_ptr<const Archivable>(std::make_shared<ArchivedPicture>(bytes))});
+    view.set(documentkeys::originalImage, {picture});
     root.set(documentkeys::graphImageViewData, {view});
-}
-
-ArchiveDictionary withoutPicture(const ArchiveDictionary &view)
-{
-    ArchiveDictionary rest;
-    for (const auto &[key, value] : view.entries()) {
-        if (key != originalImage)
-            rest.set(key, value);
-    }
-    return rest;
 }
 
 /// Removes the folder that `lock` holds.
@@ -197,8 +204,7 @@ std::optional<QString> RecoveryStore::keep(const QString &key, const Document &d
                                            const QString &pictureName)
 {
     ArchiveDictionary root = document.root;
-    if (const auto *view = root.dictionaryForKey(documentkeys::graphImageViewData))
-        root.set(documentkeys::graphImageViewData, {withoutPicture(*view)});
+    documentarchive::dropPicture(root);
     root.set(pictureKey, {pictureName.toStdString()});
     root.set(pathKey, {document.path.toStdString()});
     root.set(nameKey, {document.name.toStdString()});
@@ -217,6 +223,14 @@ std::optional<QString> RecoveryStore::keepPicture(const QString &key,
     return durablefile::write(picturePath(key, pictureName),
                               QByteArray::fromRawData(reinterpret_cast<const char *>(bytes.data()),
                                                       static_cast<qsizetype>(bytes.size())));
+}
+
+std::optional<QString> RecoveryStore::keepPicture(const QString &key, const Picture &picture,
+                                                  const QString &pictureName)
+{
+    return durablefile::write(picturePath(key, pictureName), [&picture](QIODevice &file) {
+        return rawpicture::write(picture, file);
+    });
 }
 
 void RecoveryStore::waitAtTheEndFor(std::shared_ptr<RecoveryThread> thread)

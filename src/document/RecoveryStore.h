@@ -11,6 +11,7 @@
 #include <vector>
 
 class ArchivedPicture;
+class Picture;
 class QLockFile;
 class RecoveryThread;
 
@@ -49,6 +50,10 @@ public:
                                                      const QString &pictureName);
     [[nodiscard]] static std::optional<QString>
     keepPicture(const QString &key, const ArchivedPicture &picture, const QString &pictureName);
+    /// The same with a picture whose encoding would take too long; read() gives one that is not
+    /// encoded yet.
+    [[nodiscard]] static std::optional<QString>
+    keepPicture(const QString &key, const Picture &picture, const QString &pictureName);
     static void removePicture(const QString &key, const QString &pictureName);
     /// The store does not go before the thread has done what it was asked for.
     void waitAtTheEndFor(std::shared_ptr<RecoveryThread> thread);

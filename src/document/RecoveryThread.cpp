@@ -88,7 +88,7 @@ void RecoveryThread::forget(const QString &key)
 std::optional<QString> RecoveryThread::write(const RecoveryWriter::Kept &kept)
 {
     if (m_onDisk.key != kept.key)
-        m_onDisk = {kept.key, nullptr, QString()};
+        m_onDisk = {kept.key, std::nullopt, QString()};
     const QString earlierPicture = m_onDisk.pictureName;
     if (auto reason = writePicture(kept))
         return reason;
@@ -104,17 +104,31 @@ std::optional<QString> RecoveryThread::write(const RecoveryWriter::Kept &kept)
 // A new picture takes a new name: the document that is kept up to now goes on referring to its own.
 std::optional<QString> RecoveryThread::writePicture(const RecoveryWriter::Kept &kept)
 {
-    if (kept.picture == m_onDisk.picture)
+    const std::optional<qint64> pixels =
+        kept.picture ? std::optional(kept.picture->pixels().cacheKey()) : std::nullopt;
+    if (pixels == m_onDisk.pixels)
         return std::nullopt;
     QString name;
-    if (kept.picture != nullptr) {
+    if (kept.picture) {
         name = QStringLiteral("%1-%2.picture")
                    .arg(QFileInfo(kept.key).completeBaseName())
                    .arg(++m_lastPicture);
-        if (auto reason = RecoveryStore::keepPicture(kept.key, *kept.picture, name))
+        if (auto reason = keepPicture(kept, name))
             return reason;
     }
     m_onDisk.pictureName = name;
-    m_onDisk.picture = kept.picture;
+    m_onDisk.pixels = pixels;
     return std::nullopt;
+}
+
+// Where the encoding is not there yet it is long, and a crash does not wait for it. The rest of
+// the document does not wait for the picture.
+std::optional<QString> RecoveryThread::keepPicture(const RecoveryWriter::Kept &kept,
+                                                   const QString &name)
+{
+    if (kept.encodedPicture != nullptr)
+        return RecoveryStore::keepPicture(kept.key, *kept.encodedPicture, name);
+    if (auto reason = RecoveryStore::keep(kept.key, kept.document, QString()))
+        return reason;
+    return RecoveryStore::keepPicture(kept.key, *kept.picture, name);
 }

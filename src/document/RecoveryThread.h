@@ -31,13 +31,15 @@ private:
     struct OnDisk
     {
         QString key;
-        std::shared_ptr<const ArchivedPicture> picture;
+        std::optional<qint64> pixels; ///< what tells them from other pixels; nothing: no picture
         QString pictureName;
     };
 
     void run();
     [[nodiscard]] std::optional<QString> write(const RecoveryWriter::Kept &kept);
     [[nodiscard]] std::optional<QString> writePicture(const RecoveryWriter::Kept &kept);
+    [[nodiscard]] static std::optional<QString> keepPicture(const RecoveryWriter::Kept &kept,
+                                                            const QString &name);
     void forget(const QString &key);
 
     std::mutex m_mutex; ///< of the members up to m_hasEnded

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/RecoveryStore.h"
+#include "imageview/Picture.h"
 
 #include <QObject>
 #include <QString>
@@ -23,7 +24,8 @@ public:
     {
         QString key;
         RecoveryStore::Document document;
-        std::shared_ptr<const ArchivedPicture> picture; ///< null: none, or not encoded yet
+        std::optional<Picture> picture;
+        std::shared_ptr<const ArchivedPicture> encodedPicture; ///< null: none, or not encoded yet
         QString replaces; ///< another key, which is removed once this is on the disk; or empty
     };
 

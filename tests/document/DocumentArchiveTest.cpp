@@ -397,6 +397,20 @@ TEST(DocumentArchive, damageIsToldOncePerKindAndPart)
                                    "The file ends too early: something is missing at its end."));
 }
 
+TEST(DocumentArchive, aDroppedPictureLeavesTheRestOfTheView)
+{
+    ArchiveDictionary root = sampleroots::root(Kind::Polar);
+    ASSERT_NE(documentarchive::pictureIn(root), nullptr);
+    documentarchive::dropPicture(root);
+    EXPECT_EQ(documentarchive::pictureIn(root), nullptr);
+    const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->intForKey("Rotation Angle"), 90);
+    ArchiveDictionary none;
+    documentarchive::dropPicture(none);
+    EXPECT_TRUE(none.entries().empty());
+}
+
 TEST(DocumentContents, givesTheNumbersOfADocumentWithoutItsWindow)
 {
     const QTemporaryDir folder;
@@ -412,8 +426,6 @@ TEST(DocumentContents, givesTheNumbersOfADocumentWithoutItsWindow)
     EXPECT_EQ(read.contents->axes.maxY, 1000);
     EXPECT_TRUE(read.contents->axes.logY);
     EXPECT_EQ(read.contents->axes.anchors.anchor3, (FloatPoint{110, 90}));
-    EXPECT_EQ(read.contents->guide.initialX, 0.25);
-    EXPECT_EQ(read.contents->guide.converter, read.contents->series.converterOf(0));
     ASSERT_TRUE(read.contents->picture);
     EXPECT_EQ(read.contents->picture->size, (FloatSize{40, 30}));
     EXPECT_EQ(read.contents->picture->rotation, 90);

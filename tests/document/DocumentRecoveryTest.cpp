@@ -1,7 +1,9 @@
 #include "document/TestDocument.h"
 
 #include "capture/DataSeries.h"
+#include "document/DocumentFile.h"
 #include "document/RecoveryStore.h"
+#include "imageview/ArchivedPicture.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -30,6 +32,16 @@ bool isKept(TestServices &services)
     // A few seconds after the change, and well before ten.
     return QTest::qWaitFor([&services] { return !keptFiles(services, "*.unsaved").isEmpty(); },
                            9000);
+}
+
+std::shared_ptr<const ArchivedPicture> pictureKept(TestServices &services)
+{
+    const auto document = RecoveryStore::read(keptFiles(services, "*.unsaved").value(0));
+    const ArchiveDictionary *view =
+        document ? document->root.dictionaryForKey("GraphImageView Data") : nullptr;
+    return view == nullptr ? nullptr
+                           : std::dynamic_pointer_cast<const ArchivedPicture>(
+                                 view->objectForKey("Original Image"));
 }
 
 std::size_t pointsKept(TestServices &services)
@@ -184,16 +196,64 @@ TEST(DocumentRecovery, changesDoNotWaitForALargePicture)
     ASSERT_FALSE(test.document->graphView().pictureIsEncoded());
     test.document->keepSafeNow();
     EXPECT_TRUE(pointsAreKept(test.services, 1));
-    // The picture follows.
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            const auto kept = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
-            const ArchiveDictionary *view =
-                kept ? kept->root.dictionaryForKey("GraphImageView Data") : nullptr;
-            return view != nullptr && view->objectForKey("Original Image") != nullptr;
-        },
-        30'000));
-    EXPECT_TRUE(test.document->graphView().pictureIsEncoded());
+    // The picture follows, encoded or not.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pictureKept(test.services) != nullptr; }, 9000));
+}
+
+TEST(DocumentRecovery, aPictureThatIsNotEncodedYetIsKeptAsItIs)
+{
+    TestDocument test;
+    test.document->graphView().replaceImageWithImageRep(largePicture());
+    ASSERT_FALSE(test.document->graphView().pictureIsEncoded());
+    test.document->keepSafeNow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pictureKept(test.services) != nullptr; }, 9000));
+    const auto kept = pictureKept(test.services);
+    EXPECT_FALSE(kept->isEncoded());
+    EXPECT_EQ(kept->picture()->pixels(), largePicture());
+    // Once it is encoded it is not written anew.
+    const QStringList files = keptFiles(test.services, "*.picture");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return test.document->graphView().pictureIsEncoded(); }, 60'000));
+    test.digitize();
+    test.click(100, 100);
+    test.document->keepSafeNow();
+    ASSERT_TRUE(pointsAreKept(test.services, 1));
+    EXPECT_EQ(keptFiles(test.services, "*.picture"), files);
+}
+
+TEST(DocumentRecovery, aDocumentComesBackToTheSameBytesWhetherThePictureWasEncodedOrNot)
+{
+    const auto isRead = [](TestDocument &test) {
+        return QTest::qWaitFor([&] { return test.document->graphView().pictureIsEncoded(); },
+                               60'000);
+    };
+    TestDocument test{QSize(0, 0)};
+    test.document->graphView().replaceImageWithImageRep(largePicture());
+    test.document->keepSafeNow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pictureKept(test.services) != nullptr; }, 9000));
+    const auto kept = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
+    ASSERT_TRUE(isRead(test));
+    TestDocument later{QSize(0, 0)};
+    later.document->loadRecovered(*kept);
+    later.document->windowControllerDidLoadNib();
+    ASSERT_TRUE(later.document->hasImage());
+    ASSERT_TRUE(isRead(later));
+    EXPECT_EQ(later.document->dataOfType({}), test.document->dataOfType({}));
+}
+
+TEST(DocumentRecovery, aDamagedPictureIsToldAndLeftOut)
+{
+    TestDocument test{QSize(0, 0)};
+    test.document->graphView().replaceImageWithImageRep(largePicture());
+    test.document->keepSafeNow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pictureKept(test.services) != nullptr; }, 9000));
+    QFile picture(keptFiles(test.services, "*.picture").value(0));
+    ASSERT_TRUE(picture.resize(picture.size() / 2));
+    const auto kept = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
+    ASSERT_TRUE(kept.has_value());
+    documentarchive::Reading reading{kept->root, {}};
+    documentfile::decodePicture(reading, 1U << 30U);
+    EXPECT_FALSE(reading.isWhole());
 }
 
 TEST(DocumentRecovery, aWriteThatFailsIsTold)

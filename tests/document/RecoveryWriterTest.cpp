@@ -27,11 +27,9 @@ protected:
     {
         const ArchiveDictionary root = sampleroots::root(sampleroots::Kind::Polar);
         const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
-        writer->keep(
-            {key,
-             {root, {}, {}, {}},
-             std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image")),
-             {}});
+        const auto picture =
+            std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image"));
+        writer->keep({key, {root, {}, {}, {}}, picture->picture(), picture, {}});
     }
 
     [[nodiscard]] QStringList files() const
