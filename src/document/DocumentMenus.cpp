@@ -118,6 +118,9 @@ void DocumentMenus::addFileMenu()
                           noRule,
                           {},
                           &MyDocument::revertDocumentToSaved});
+    // The disk, which may be slow, is not asked at every change.
+    connect(menu, &QMenu::aboutToShow, this,
+            [this] { m_revert->setEnabled(m_document.canRevert()); });
     menu->addSeparator();
     add(menu, {"saveDataAs",
                "document.command.saveAll",

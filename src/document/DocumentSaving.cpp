@@ -1,10 +1,10 @@
 #include "document/DocumentSaving.h"
 
 #include "document/DocumentFile.h"
-#include "document/DocumentKeys.h"
 #include "document/DocumentServices.h"
 #include "document/DocumentTypes.h"
 #include "document/MyDocument.h"
+#include "document/SavingProgress.h"
 #include "imageview/ArchivedPicture.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureMemory.h"
@@ -27,9 +27,7 @@ constexpr std::size_t largeFile = 4'000'000;
 /// The bytes of the encoded picture; zero without one.
 std::size_t pictureSizeIn(const ArchiveDictionary &root)
 {
-    const ArchiveDictionary *view = root.dictionaryForKey(documentkeys::graphImageViewData);
-    const auto picture =
-        std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image"));
+    const auto picture = documentarchive::pictureIn(root);
     return picture == nullptr ? 0 : picture->bytes()->size();
 }
 
@@ -53,9 +51,12 @@ DocumentSaving::DocumentSaving(MyDocument &document, const WindowDialogs &dialog
     , m_dialogs(dialogs)
     , m_statusBar(statusBar)
 {
+    m_progress = new SavingProgress(&statusBar);
+    statusBar.addPermanentWidget(m_progress);
+    m_progress->hide();
+    connect(m_progress, &SavingProgress::cancelled, this, &DocumentSaving::cancel);
     m_progressTimer.setSingleShot(true);
-    connect(&m_progressTimer, &QTimer::timeout, this,
-            [this] { m_statusBar.showMessage(texts::localized("document.saving")); });
+    connect(&m_progressTimer, &QTimer::timeout, this, &DocumentSaving::showProgress);
 }
 
 void DocumentSaving::save(Saved saved)
@@ -107,8 +108,32 @@ void DocumentSaving::askToOverwrite(const char *textKey, const QString &path, co
 void DocumentSaving::writeTo(const QString &path, const Saved &saved)
 {
     m_isBusy = true;
+    m_path = path;
     m_progressTimer.start(timeBeforeProgress);
-    m_document.graphView().encodePicture([this, path, saved] { encodedFor(path, saved); });
+    m_document.graphView().encodePicture([this, path, saved, save = ++m_saves] {
+        if (save == m_saves && m_isBusy)
+            encodedFor(path, saved);
+    });
+}
+
+void DocumentSaving::showProgress()
+{
+    const QString name = QFileInfo(m_path).fileName();
+    if (m_writing.isWorking())
+        m_progress->showWriting(name);
+    else
+        m_progress->showPreparing(name);
+}
+
+// The file is as it was. The encoding goes on: the next save needs it.
+void DocumentSaving::cancel()
+{
+    if (!m_isBusy || m_writing.isWorking())
+        return;
+    m_isBusy = false;
+    m_progressTimer.stop();
+    m_progress->hide();
+    m_next = {};
 }
 
 // What is written is the document of this moment, whatever was done while the picture was encoded
@@ -128,12 +153,15 @@ void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
     m_writing.begin([this, path, saved, root](const std::stop_token &) -> BackgroundWork::Handler {
         return [this, path, saved, outcome = write(path, root)] { written(path, saved, outcome); };
     });
+    if (!m_progress->isHidden())
+        showProgress();
 }
 
 void DocumentSaving::written(const QString &path, const Saved &saved, const Outcome &outcome)
 {
     m_isBusy = false;
     m_progressTimer.stop();
+    m_progress->hide();
     m_statusBar.clearMessage();
     const Saved next = std::exchange(m_next, {});
     if (outcome.refused) {
@@ -190,6 +218,10 @@ void DocumentSaving::revert()
 {
     if (!m_document.fileStamp() || m_isBusy)
         return;
+    if (!m_document.isDocumentEdited()) {
+        reread();
+        return;
+    }
     m_dialogs.sheets->present(
         {withName("document.revert.title", m_document.fileUrl().toLocalFile()),
          texts::localized("document.revert.text"),

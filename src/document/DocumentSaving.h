@@ -14,6 +14,7 @@
 
 class MyDocument;
 class QStatusBar;
+class SavingProgress;
 struct WindowDialogs;
 
 /// Saves one document, with the questions that belong to it. Nothing blocks: what comes after a
@@ -50,6 +51,8 @@ private:
 
     [[nodiscard]] static Outcome write(const QString &path, const ArchiveDictionary &root);
     void writeTo(const QString &path, const Saved &saved);
+    void cancel();
+    void showProgress();
     void encodedFor(const QString &path, const Saved &saved);
     void written(const QString &path, const Saved &saved, const Outcome &outcome);
     void refused(const QString &path, const QString &reason);
@@ -63,6 +66,9 @@ private:
     QStatusBar &m_statusBar;
     BackgroundWork m_writing;
     QTimer m_progressTimer;
+    SavingProgress *m_progress; // owned by the status bar
+    QString m_path;             ///< of the save under way
+    int m_saves = 0;            ///< begun up to now
     Saved m_next;
     Saved m_agreed;
     bool m_isBusy = false;

@@ -6,6 +6,7 @@
 #include "document/MyDocument.h"
 #include "document/StatusLine.h"
 #include "document/SymbolIcons.h"
+#include "imageview/ReadingProgress.h"
 #include "platform/Texts.h"
 #include "ui_MyDocument.h"
 
@@ -129,7 +130,21 @@ void DocumentWindow::keepSizeWithoutPicture()
 
 DocumentWindow::~DocumentWindow() = default;
 
-void DocumentWindow::showEmptyHint(bool shown) { m_emptyHint->setVisible(shown); }
+void DocumentWindow::showEmptyHint(bool shown)
+{
+    m_isEmpty = shown;
+    m_emptyHint->setVisible(m_isEmpty && !m_showsProgress);
+}
+
+void DocumentWindow::keepHintClearOfProgress()
+{
+    for (const ReadingProgress *progress : findChildren<ReadingProgress *>()) {
+        connect(progress, &ReadingProgress::visibilityChanged, this, [this](bool visible) {
+            m_showsProgress = visible;
+            showEmptyHint(m_isEmpty);
+        });
+    }
+}
 
 void DocumentWindow::offerExamples(QMenu &examples) { m_emptyHint->offer(examples); }
 

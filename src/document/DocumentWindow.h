@@ -30,6 +30,9 @@ public:
 
     /// Shows or hides the words in the empty picture area that say what to do next.
     void showEmptyHint(bool shown);
+    /// They make room for the panels that show how far a reading has come; once, when these are
+    /// made.
+    void keepHintClearOfProgress();
     /// Offers `examples` there, a menu of the window.
     void offerExamples(QMenu &examples);
 
@@ -60,5 +63,7 @@ private:
     const std::unique_ptr<Ui::MyDocument> m_ui;
     StatusLine *m_status;
     EmptyPictureHint *m_emptyHint;
+    bool m_isEmpty = false;
+    bool m_showsProgress = false;
     QPointer<QWidget> m_focusBeforeBlocking;
 };

@@ -32,8 +32,6 @@
 namespace {
 
 // The states of the drawer's button; the sense is inverted on purpose.
-constexpr int drawerIsOpen = 0;
-constexpr int drawerIsClosed = 1;
 
 FloatSize sizeOf(QSize size)
 {
@@ -64,6 +62,7 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     m_recovery = std::make_unique<DocumentRecovery>(*this, services.recoveryStore(),
                                                     *m_window->ui().statusBar);
     makeReading();
+    m_window->keepHintClearOfProgress();
     showTitle();
     showsChanged();
 }

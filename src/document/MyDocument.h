@@ -106,6 +106,9 @@ public:
                           BackgroundReading::Handler cancelled);
     [[nodiscard]] bool isReading() const;
 
+    /// Whether the file has another state than this document: that of before its changes, or one
+    /// that another program has put there. Looks at the disk.
+    [[nodiscard]] bool canRevert() const;
     /// Whether nothing was ever done in this window, so that a file may be opened in it.
     [[nodiscard]] bool isUntouched() const;
     /// What is written to a file now is the document as it is.
@@ -180,7 +183,9 @@ public:
     /// `zoom:` for a new picture: gives the window its standard frame.
     void applyStandardFrame();
 
-    /// 0 the drawer is open, 1 it is closed.
+    static constexpr int drawerIsOpen = 0;
+    static constexpr int drawerIsClosed = 1;
+    /// drawerIsOpen or drawerIsClosed.
     [[nodiscard]] int drawerOpenButtonState() const { return m_drawerOpenButtonState; }
 
     /// The user has changed the preferences.
@@ -295,7 +300,7 @@ private:
     bool m_isKey = false;
     bool m_closeAgreed = false;
     mutable std::optional<bool> m_pasteboardIsGood; ///< as far as it was looked at
-    int m_drawerOpenButtonState = 1;
+    int m_drawerOpenButtonState = drawerIsClosed;
     QUrl m_fileUrl;
     std::optional<durablefile::Stamp> m_fileStamp;
     bool m_openImageDirect = false;

@@ -28,8 +28,6 @@
 
 namespace {
 
-constexpr int drawerIsOpen = 0;
-constexpr int drawerIsClosed = 1;
 constexpr QSize newWindowSize{760, 620};
 
 QRect primaryScreen() { return QGuiApplication::primaryScreen()->geometry(); }
@@ -138,11 +136,7 @@ ArchiveDictionary MyDocument::rootDictionaryWith(ArchiveDictionary viewData) con
 std::optional<QByteArray> MyDocument::dataOfType(const QString &) const
 {
     const ArchiveDictionary root = rootDictionary();
-    const bool lacksPicture =
-        hasImage() &&
-        root.dictionaryForKey(documentkeys::graphImageViewData)->objectForKey("Original Image") ==
-            nullptr;
-    if (lacksPicture)
+    if (hasImage() && documentarchive::pictureIn(root) == nullptr)
         return std::nullopt;
     return documentarchive::archivedData(root);
 }
@@ -268,6 +262,14 @@ void MyDocument::openOwnPicture()
                    ? QUrl::fromLocalFile(documenttypes::documentPathFor(picture.toLocalFile()))
                    : QUrl());
     whenOnScreen([this, picture] { m_graphView->openImageFile(picture); });
+}
+
+bool MyDocument::canRevert() const
+{
+    if (!m_fileStamp)
+        return false;
+    const auto present = durablefile::stampOf(m_fileUrl.toLocalFile());
+    return isDocumentEdited() || (present && present != m_fileStamp);
 }
 
 bool MyDocument::isUntouched() const

@@ -1,6 +1,7 @@
 #include "document/TestDocument.h"
 
 #include "document/EmptyPictureHint.h"
+#include "imageview/ReadingProgress.h"
 #include "platform/TextField.h"
 
 #include <QApplication>
@@ -183,6 +184,23 @@ TEST_F(DocumentPasteTest, theStatusLineSaysWhyADragIsRefused)
     EXPECT_EQ(hint(), qtTrId("document.status.dropWhileDigitizing"));
     endDrag();
     EXPECT_NE(hint(), qtTrId("document.status.dropWhileDigitizing"));
+}
+
+TEST(DocumentWindow, theWordsInAnEmptyWindowMakeRoomForTheProgressOfAReading)
+{
+    TestDocument test{QSize(0, 0)};
+    DocumentWindow &window = test.document->window();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const auto *words = window.findChild<EmptyPictureHint *>();
+    ASSERT_TRUE(words->isVisible());
+    const QList<ReadingProgress *> panels = window.findChildren<ReadingProgress *>();
+    EXPECT_GE(panels.size(), 3); // of documents, pictures and PDF files
+    for (ReadingProgress *panel : panels) {
+        panel->showFor(QStringLiteral("chart.png"));
+        EXPECT_FALSE(words->isVisible());
+        panel->hide();
+        EXPECT_TRUE(words->isVisible());
+    }
 }
 
 TEST(DocumentDrop, theWordsInAnEmptyWindowTakeDrops)

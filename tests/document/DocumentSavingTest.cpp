@@ -8,6 +8,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QKeySequence>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -183,6 +187,29 @@ TEST_F(DocumentSavingTest, revertingShowsTheFileAgain)
     EXPECT_TRUE(sheets().waitingCount() == 0);
 }
 
+TEST_F(DocumentSavingTest, aFileThatAnotherProgramChangedIsShownAgainWithoutAQuestion)
+{
+    saveAs(path());
+    const QByteArray twoPoints = contentOf(path());
+    test.click(300, 250);
+    test.command("saveDocument");
+    auto *fileMenu = test.document->window().menuBar()->actions().constFirst()->menu();
+    Q_EMIT fileMenu->aboutToShow();
+    EXPECT_FALSE(test.action("revertDocumentToSaved")->isEnabled());
+    putContent(path(), twoPoints);
+    Q_EMIT fileMenu->aboutToShow();
+    ASSERT_TRUE(test.action("revertDocumentToSaved")->isEnabled());
+    test.command("revertDocumentToSaved");
+    EXPECT_TRUE(sheets().waitingCount() == 0);
+    waitUntilRead();
+    EXPECT_EQ(document().dataSeries().maxRows(), 2);
+    Q_EMIT fileMenu->aboutToShow();
+    EXPECT_FALSE(test.action("revertDocumentToSaved")->isEnabled());
+    ASSERT_TRUE(QFile::remove(path()));
+    Q_EMIT fileMenu->aboutToShow();
+    EXPECT_FALSE(test.action("revertDocumentToSaved")->isEnabled());
+}
+
 TEST_F(DocumentSavingTest, revertingLeadsToWhatOpeningShows)
 {
     // Six digits are written of an anchor, and opening makes the converter from them.
@@ -354,6 +381,63 @@ TEST(DocumentSaving, closingDuringASaveThatFailsKeepsTheWindow)
 
 namespace {
 
+/// A picture that is as hard to encode as can be.
+QImage noise(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    std::mt19937 random(3);
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            line[x] = 0xff000000U | static_cast<QRgb>(random() & 0xffffffU);
+    }
+    return image;
+}
+
+/// A document around a picture that takes seconds to be encoded.
+class LongSave : public testing::Test
+{
+protected:
+    LongSave()
+        : test(QSize(0, 0))
+        , path(m_folder.filePath(QStringLiteral("long.crvgrab")))
+    {
+        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
+        test.document->setFileUrl(QUrl::fromLocalFile(path));
+        putContent(path, "old");
+        test.document->saveDocument();
+        test.services.sheets->answerFirst(SheetAnswer::Other);
+    }
+
+    [[nodiscard]] QWidget &progress() const
+    {
+        return *test.ui().statusBar->findChild<QWidget *>(QStringLiteral("savingProgress"));
+    }
+
+    bool showsProgress()
+    {
+        return QTest::qWaitFor([this] { return progress().isVisible(); });
+    }
+
+    void cancel() const
+    {
+        QTest::mouseClick(progress().findChild<QToolButton *>(), Qt::LeftButton);
+    }
+
+    bool pictureIsEncoded()
+    {
+        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
+                               60'000);
+    }
+
+private:
+    QTemporaryDir m_folder;
+
+protected:
+    TestDocument test;
+    QString path;
+};
+
 /// A document around a picture whose file takes a while to be written.
 class LargeDocument : public testing::Test
 {
@@ -362,12 +446,7 @@ protected:
         : test(QSize(0, 0))
         , path(m_folder.filePath(QStringLiteral("large.crvgrab")))
     {
-        QImage noise(1600, 1200, QImage::Format_RGB32);
-        std::mt19937 random(3);
-        for (int y = 0; y < noise.height(); ++y)
-            for (int x = 0; x < noise.width(); ++x)
-                noise.setPixel(x, y, 0xff000000U | static_cast<QRgb>(random() & 0xffffffU));
-        test.document->graphView().replaceImageWithImageRep(noise);
+        test.document->graphView().replaceImageWithImageRep(noise({1600, 1200}));
         test.digitize();
         test.document->setFileUrl(QUrl::fromLocalFile(path));
         EXPECT_TRUE(QTest::qWaitFor(
@@ -389,6 +468,59 @@ protected:
 };
 
 } // namespace
+
+TEST_F(LongSave, tellsWhatItIsDoingUntilItIsDone)
+{
+    EXPECT_FALSE(progress().isVisible());
+    const int height = test.ui().statusBar->height();
+    ASSERT_TRUE(showsProgress());
+    EXPECT_EQ(progress().findChild<QLabel *>()->text(),
+              qtTrId("document.saving.preparing").arg(QStringLiteral("long.crvgrab")));
+    EXPECT_EQ(test.ui().statusBar->height(), height);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    EXPECT_FALSE(progress().isVisible());
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+}
+
+TEST_F(LongSave, cancelledLeavesTheFileAndTheDocumentAsTheyWere)
+{
+    ASSERT_TRUE(showsProgress());
+    cancel();
+    EXPECT_FALSE(progress().isVisible());
+    ASSERT_TRUE(pictureIsEncoded());
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_TRUE(test.document->isDocumentEdited());
+    EXPECT_EQ(test.services.sheets->waitingCount(), 0U);
+    // The next one takes up what was done.
+    test.document->saveDocument();
+    test.services.sheets->answerFirst(SheetAnswer::Other);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+}
+
+TEST_F(LongSave, cancelledTakesBackTheClosingThatWaitedForIt)
+{
+    EXPECT_FALSE(test.document->window().close());
+    ASSERT_TRUE(showsProgress());
+    cancel();
+    ASSERT_TRUE(pictureIsEncoded());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.services.closedDocuments, 0);
+    EXPECT_FALSE(test.document->window().close());
+    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
+}
+
+TEST_F(LongSave, anotherOneAfterACancelledOneIsWrittenOnce)
+{
+    ASSERT_TRUE(showsProgress());
+    cancel();
+    test.document->saveDocument();
+    test.services.sheets->answerFirst(SheetAnswer::Other);
+    EXPECT_EQ(contentOf(path), "old");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+    EXPECT_TRUE(test.services.sheets->waitingCount() == 0);
+}
 
 TEST_F(LargeDocument, thePictureIsEncodedBeforeAnybodyAsks)
 {

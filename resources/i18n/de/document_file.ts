@@ -72,8 +72,22 @@
         <translation>die ganze Datei</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>Wird gespeichert…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>„%1“ wird gespeichert…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Das Bild von „%1“ wird vorbereitet…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>Das Speichern abbrechen; die Datei bleibt, wie sie war</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>Fortschritt des Speicherns</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>

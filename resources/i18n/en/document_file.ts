@@ -72,8 +72,22 @@
         <translation>the whole file</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>Saving…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Saving “%1”…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Preparing the picture of “%1”…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>Stop saving; the file stays as it was</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>Progress of saving</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>

@@ -72,8 +72,22 @@
         <translation>todo el archivo</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>Guardando…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Guardando «%1»…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Preparando la imagen de «%1»…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>Dejar de guardar; el archivo queda como estaba</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>Progreso del guardado</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>

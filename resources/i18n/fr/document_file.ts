@@ -72,8 +72,22 @@
         <translation>tout le fichier</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>Enregistrement…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Enregistrement de « %1 »…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>Préparation de l’image de « %1 »…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>Arrêter l’enregistrement ; le fichier reste tel qu’il était</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>Progression de l’enregistrement</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>

@@ -72,8 +72,22 @@
         <translation>ファイル全体</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>保存しています…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>“%1”を保存しています…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>“%1”の画像を準備しています…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>保存を中止します。ファイルは元のまま残ります</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>保存の進行状況</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>

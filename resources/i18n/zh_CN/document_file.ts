@@ -72,8 +72,22 @@
         <translation>整个文件</translation>
     </message>
     <message id="document.saving">
-        <source>Saving…</source>
-        <translation>正在保存…</translation>
+        <source>Saving “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>正在保存“%1”…</translation>
+    </message>
+    <message id="document.saving.preparing">
+        <source>Preparing the picture of “%1”…</source>
+        <extracomment>%1 is the name of a file.</extracomment>
+        <translation>正在准备“%1”的图片…</translation>
+    </message>
+    <message id="document.saving.cancelTip">
+        <source>Stop saving; the file stays as it was</source>
+        <translation>停止保存；文件保持原样</translation>
+    </message>
+    <message id="document.saving.progressName">
+        <source>Progress of saving</source>
+        <translation>保存进度</translation>
     </message>
     <message id="document.save.overwriteTitle">
         <source>Replace “%1”?</source>
