@@ -74,12 +74,12 @@
     <message id="document.saving">
         <source>Saving “%1”…</source>
         <extracomment>%1 is the name of a file.</extracomment>
-        <translation>“%1”を保存しています…</translation>
+        <translation>「%1」を保存しています…</translation>
     </message>
     <message id="document.saving.preparing">
         <source>Preparing the picture of “%1”…</source>
         <extracomment>%1 is the name of a file.</extracomment>
-        <translation>“%1”の画像を準備しています…</translation>
+        <translation>「%1」の画像を準備しています…</translation>
     </message>
     <message id="document.saving.cancelTip">
         <source>Stop saving; the file stays as it was</source>
