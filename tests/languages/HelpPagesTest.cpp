@@ -2,6 +2,7 @@
 #include "helpbook/HelpBook.h"
 #include "languages/CatalogueFile.h"
 
+#include <QDir>
 #include <QMap>
 #include <QRegularExpression>
 
@@ -124,11 +125,12 @@ INSTANTIATE_TEST_SUITE_P(Languages, HelpPages, ::testing::ValuesIn(cataloguefile
 
 } // namespace
 
-TEST_P(HelpPages, existForTheFirstSteps)
+TEST_P(HelpPages, existWhereEnglishHasThem)
 {
     const HelpBook book(QStringLiteral(":/help/") + GetParam());
-    EXPECT_FALSE(book.source(QStringLiteral("index.html")).isEmpty());
-    EXPECT_FALSE(book.source(QStringLiteral("first-steps.html")).isEmpty());
+    for (const QString &file : QDir(QStringLiteral(":/help/en")).entryList({"*.html"}))
+        EXPECT_FALSE(book.source(file).isEmpty())
+            << "resources/help/" << qPrintable(GetParam() + u'/' + file) << " is missing";
 }
 
 TEST_P(HelpPages, stayInTheBookOfTheUsersLanguage)
