@@ -7,6 +7,7 @@
 #include "document/ExampleDocuments.h"
 #include "document/MyDocument.h"
 #include "imageview/PictureMemory.h"
+#include "imageview/PictureReadAhead.h"
 #include "platform/Texts.h"
 
 #include <QCoreApplication>
@@ -139,8 +140,10 @@ void DocumentController::wasRead(MyDocument &document, bool isNew, const QString
 
 void DocumentController::readPicture(const QString &path)
 {
+    std::shared_ptr<PictureReadAhead> ahead = PictureReadAhead::begin(path);
     MyDocument &document = documentForOpening();
     document.setFileUrl(QUrl::fromLocalFile(path));
+    document.expectPicture(std::move(ahead));
     if (document.loadDataRepresentation({}, QFileInfo(path).suffix())) {
         show(document);
         document.raise();

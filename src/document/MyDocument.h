@@ -38,6 +38,7 @@ class ExportChoices;
 class ExportFormats;
 class GraphImageView;
 class ImageViewAdapter;
+class PictureReadAhead;
 class SeriesExport;
 class ToolPalette;
 
@@ -72,6 +73,8 @@ public:
     [[nodiscard]] bool loadDataRepresentation(const QByteArray &data, const QString &ofType);
     /// The same with the content of a document file that was read already, with its picture.
     [[nodiscard]] bool loadReading(documentarchive::Reading reading);
+    /// Takes the reading, which may be null, of the picture at fileUrl() that was begun already.
+    void expectPicture(std::shared_ptr<PictureReadAhead> ahead);
     /// After a document file was refused: what is wrong with it, and what is left of it.
     [[nodiscard]] const documentarchive::Reading &refusedReading() const { return m_refused; }
     /// Takes what is left of a damaged document; it is a new one, and modified.

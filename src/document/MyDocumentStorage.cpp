@@ -87,6 +87,11 @@ bool MyDocument::loadReading(documentarchive::Reading reading)
     return true;
 }
 
+void MyDocument::expectPicture(std::shared_ptr<PictureReadAhead> ahead)
+{
+    m_graphView->expectPicture(std::move(ahead));
+}
+
 void MyDocument::loadRemains(ArchiveDictionary root)
 {
     m_loadedDataDict = std::move(root);

@@ -107,6 +107,11 @@ bool GraphImageView::openImageFile(const QUrl &url)
     return true;
 }
 
+void GraphImageView::expectPicture(std::shared_ptr<PictureReadAhead> ahead)
+{
+    m_opener->expect(std::move(ahead));
+}
+
 void GraphImageView::giveUpOpening()
 {
     m_opener->cancel();

@@ -28,6 +28,7 @@ class ImageViewSeries;
 class FocusFrame;
 class PdfOpener;
 class PictureOpener;
+class PictureReadAhead;
 class PictureScrollArea;
 class PictureSource;
 class QMimeData;
@@ -115,6 +116,8 @@ public:
     /// picture stays. Large files and PDF files are read in the background: then true says that
     /// reading has begun, and `fileOpened` how it ended.
     bool openImageFile(const QUrl &url);
+    /// Takes the reading, which may be null, of a picture that openImageFile() is asked for soon.
+    void expectPicture(std::shared_ptr<PictureReadAhead> ahead);
     /// Whether a paste or drop of `pasteboard`, which may be null, would be taken: on the axis
     /// page a local file with the extension of a picture, or an image where there are no files.
     [[nodiscard]] bool acceptPasteboard(const QMimeData *pasteboard) const;

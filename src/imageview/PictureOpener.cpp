@@ -24,25 +24,36 @@ std::optional<PictureReading> PictureOpener::open(const PictureSource &source,
                                                   const Handler &finished)
 {
     cancel();
+    const std::shared_ptr<const PictureReadAhead> ahead = aheadOf(source);
     const PictureReader reader(picturememory::available());
     PictureReading probed = reader.probe(source);
     if (probed.problem)
         return probed;
     if (!isLarge(probed.pixelSize))
-        return reader.read(source);
-    begin(source, finished);
+        return ahead ? ahead->result() : reader.read(source);
+    begin(source, finished, ahead);
     return {};
+}
+
+void PictureOpener::expect(std::shared_ptr<PictureReadAhead> ahead) { m_ahead = std::move(ahead); }
+
+std::shared_ptr<const PictureReadAhead> PictureOpener::aheadOf(const PictureSource &source)
+{
+    const std::shared_ptr<const PictureReadAhead> ahead = std::exchange(m_ahead, nullptr);
+    return ahead && source.isFile() && ahead->path() == source.path() ? ahead : nullptr;
 }
 
 void PictureOpener::cancel() { m_reading.cancel(); }
 
-void PictureOpener::begin(const PictureSource &source, const Handler &finished)
+void PictureOpener::begin(const PictureSource &source, const Handler &finished,
+                          const std::shared_ptr<const PictureReadAhead> &ahead)
 {
     m_reading.begin(
         source.name(),
-        [source, finished](const std::stop_token &stop, std::atomic<int> &percentRead) {
+        [source, finished, ahead](const std::stop_token &stop, std::atomic<int> &percentRead) {
             PictureReading reading =
-                PictureReader(picturememory::available()).read(source, stop, &percentRead);
+                ahead ? ahead->result(stop, &percentRead)
+                      : PictureReader(picturememory::available()).read(source, stop, &percentRead);
             return [finished, reading = std::move(reading)] { finished(reading); };
         },
         [finished] {

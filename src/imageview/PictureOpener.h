@@ -1,9 +1,11 @@
 #pragma once
 
 #include "imageview/BackgroundReading.h"
+#include "imageview/PictureReadAhead.h"
 #include "imageview/PictureReader.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 /// Opens pictures without holding up the window: small ones at once, large ones in a thread
@@ -21,11 +23,17 @@ public:
     [[nodiscard]] std::optional<PictureReading> open(const PictureSource &source,
                                                      const Handler &finished);
 
+    /// Takes a reading that was begun before: the next open() uses it, if it is of the same file.
+    void expect(std::shared_ptr<PictureReadAhead> ahead);
+
     /// Gives up the reading in progress; its handler is told so.
     void cancel();
 
 private:
-    void begin(const PictureSource &source, const Handler &finished);
+    void begin(const PictureSource &source, const Handler &finished,
+               const std::shared_ptr<const PictureReadAhead> &ahead);
+    [[nodiscard]] std::shared_ptr<const PictureReadAhead> aheadOf(const PictureSource &source);
 
     BackgroundReading m_reading;
+    std::shared_ptr<PictureReadAhead> m_ahead; ///< null: nothing is expected
 };

@@ -44,6 +44,57 @@ TEST_F(PictureOpenerTest, smallPicturesComeAtOnce)
     EXPECT_TRUE(reading->picture);
 }
 
+TEST_F(PictureOpenerTest, takesWhatWasReadBefore)
+{
+    const QString path = picture("a.png", 400, 300);
+    auto ahead = PictureReadAhead::begin(path);
+    ASSERT_TRUE(ahead->result().picture);
+    // The first look finds the new size; the picture is the one that was read.
+    picture("a.png", 40, 30);
+    opener->expect(std::move(ahead));
+    const auto reading = opener->open(path, {});
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(reading->pixelSize, QSize(400, 300));
+}
+
+TEST_F(PictureOpenerTest, takesALargePictureWhileItIsReadBefore)
+{
+    std::optional<PictureReading> later;
+    const QString path = picture("a.png", 2200, 2000);
+    opener->expect(PictureReadAhead::begin(path));
+    EXPECT_FALSE(opener->open(path, [&](const PictureReading &reading) { later = reading; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return later.has_value(); }, 30'000));
+    EXPECT_TRUE(later->picture);
+}
+
+TEST_F(PictureOpenerTest, cancelAlsoGivesUpWhatWasBegunBefore)
+{
+    std::optional<PictureReading> later;
+    const QString path = picture("a.png", 2200, 2000);
+    opener->expect(PictureReadAhead::begin(path));
+    EXPECT_FALSE(opener->open(path, [&](const PictureReading &reading) { later = reading; }));
+    opener->cancel();
+    ASSERT_TRUE(later);
+    EXPECT_EQ(later->problem, PictureProblem::Cancelled);
+}
+
+TEST_F(PictureOpenerTest, whatWasReadBeforeIsNotTakenForAnotherFile)
+{
+    opener->expect(PictureReadAhead::begin(picture("a.png", 400, 300)));
+    const auto reading = opener->open(picture("b.png", 40, 30), {});
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(reading->pixelSize, QSize(40, 30));
+}
+
+TEST_F(PictureOpenerTest, whatWasReadBeforeIsTakenOnce)
+{
+    const QString path = picture("a.png", 400, 300);
+    opener->expect(PictureReadAhead::begin(path));
+    ASSERT_TRUE(opener->open(path, {}));
+    picture("a.png", 40, 30);
+    EXPECT_EQ(opener->open(path, {})->pixelSize, QSize(40, 30));
+}
+
 TEST_F(PictureOpenerTest, problemsOfTheBeginningComeAtOnce)
 {
     const auto reading = opener->open(folder.filePath("none.png"), {});
