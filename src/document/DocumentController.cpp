@@ -29,6 +29,8 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, const QString &sta
     , m_panels(std::make_unique<ApplicationPanels>(prefs))
     , m_recentFiles(QDir(stateFolder).filePath(QStringLiteral("state.json")))
     , m_exportChoices(QDir(stateFolder).filePath(QStringLiteral("export.json")))
+    , m_plotTools{PlotModule(PlotModule::folderFor(QCoreApplication::applicationDirPath())),
+                  PlotChoices(QDir(stateFolder).filePath(QStringLiteral("plot.json")))}
     , m_recovery(QDir(stateFolder).filePath(QStringLiteral("recovery")))
     , m_clipboard(std::make_unique<SystemClipboard>())
     , m_pasteboard(std::make_unique<SystemPasteboard>())

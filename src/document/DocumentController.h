@@ -5,6 +5,7 @@
 #include "document/ExportChoices.h"
 #include "document/RecentFiles.h"
 #include "document/RecoveryStore.h"
+#include "plot/PlotTools.h"
 
 #include <QObject>
 #include <QStringList>
@@ -69,6 +70,7 @@ public:
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
     [[nodiscard]] ExportChoices &exportChoices() override { return m_exportChoices; }
+    [[nodiscard]] PlotTools &plotTools() override { return m_plotTools; }
     [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
@@ -111,6 +113,7 @@ private:
     std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
     RecentFiles m_recentFiles;
     ExportChoices m_exportChoices;
+    PlotTools m_plotTools;
     RecoveryStore m_recovery;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;

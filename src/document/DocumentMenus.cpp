@@ -221,6 +221,18 @@ void DocumentMenus::addViewMenu()
                {keys("Ctrl+4")},
                &MyDocument::zoomToFitHeight});
     menu->addSeparator();
+    m_axisGrid = add(menu, {"toggleAxisGrid",
+                            "document.command.axisGrid",
+                            menurules::PictureCommand,
+                            {keys("Ctrl+G")},
+                            &MyDocument::toggleAxisGrid});
+    m_axisGrid->setCheckable(true);
+    add(menu, {"showResult",
+               "document.command.result",
+               noRule,
+               {keys("Ctrl+Shift+G")},
+               &MyDocument::showResult});
+    menu->addSeparator();
     menu->addAction(m_shared.showHideTable);
     menu->addAction(m_shared.showHideInfo);
 }
@@ -422,5 +434,6 @@ void DocumentMenus::refreshMarks()
     // The modes of the tools without a gap: setting axes has no tool of its own.
     const int tool = m_document.mouseTool();
     mark(m_tools, tool == DigitizeMode ? 0 : tool - DragAnchorMode);
+    m_axisGrid->setChecked(m_document.graphView().showsAxisGrid());
     m_sort->setChecked(m_document.sortsAutomatically());
 }

@@ -74,5 +74,6 @@ private:
     std::vector<QAction *> m_drawModes;
     std::vector<QAction *> m_tabs;
     std::vector<QAction *> m_tools;
+    QAction *m_axisGrid = nullptr;
     QAction *m_sort = nullptr;
 };

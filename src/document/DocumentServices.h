@@ -19,6 +19,7 @@ class HelpViewer;
 class MyDocument;
 class NotificationCentre;
 class Pasteboard;
+struct PlotTools;
 class RecentFiles;
 class RecoveryStore;
 class QWidget;
@@ -61,6 +62,8 @@ public:
     [[nodiscard]] virtual std::vector<MyDocument *> openDocuments() const = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
     [[nodiscard]] virtual ExportChoices &exportChoices() = 0;
+    /// What all plots share.
+    [[nodiscard]] virtual PlotTools &plotTools() = 0;
     /// Where unsaved changes are kept safe from a crash.
     [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;
     virtual void terminate() = 0;

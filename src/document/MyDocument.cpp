@@ -5,6 +5,7 @@
 #include "capture/DataSeries.h"
 #include "capture/SeriesExport.h"
 #include "document/ComponentAdapters.h"
+#include "document/DocumentPlot.h"
 #include "document/DocumentRecovery.h"
 #include "document/DocumentSaving.h"
 #include "document/DocumentStatus.h"
@@ -353,6 +354,7 @@ bool MyDocument::windowShouldClose()
 void MyDocument::windowWillClose()
 {
     m_graphView->windowWillClose();
+    m_plot.reset();
     m_recovery->forget();
     if (gInfoPanelController != nullptr)
         gInfoPanelController->updateAllInfoWith(nullptr);
@@ -366,6 +368,8 @@ void MyDocument::showsChanged()
     m_menus->refresh();
     m_tools->refresh();
     m_status->refresh();
+    if (m_plot != nullptr)
+        m_plot->documentChanged();
 }
 
 void MyDocument::newDocument() { m_services.newDocument(); }
@@ -460,6 +464,8 @@ void MyDocument::zoomOut() { m_graphView->zoomOut(); }
 void MyDocument::zoomToFitWidth() { m_graphView->zoomToFitWidth(); }
 
 void MyDocument::zoomToFitHeight() { m_graphView->zoomToFitHeight(); }
+
+void MyDocument::toggleAxisGrid() { m_graphView->setShowsAxisGrid(!m_graphView->showsAxisGrid()); }
 
 void MyDocument::imageRotateCw() { m_graphView->imageRotateCw(); }
 

@@ -30,6 +30,7 @@ class CursorGuide;
 class CurvegrabPrefs;
 class DataSeries;
 class DataTableView;
+class DocumentPlot;
 class DocumentRecovery;
 class DocumentSaving;
 class DocumentStatus;
@@ -231,6 +232,8 @@ public Q_SLOTS:
     void zoomOut();
     void zoomToFitWidth();
     void zoomToFitHeight();
+    void toggleAxisGrid();
+    void showResult();
     void imageRotateCw();
     void imageRotateCcw();
     void choosePointerTool();
@@ -330,6 +333,7 @@ private:
     std::unique_ptr<DocumentSaving> m_saving;
     std::unique_ptr<DocumentRecovery> m_recovery;
     std::unique_ptr<BackgroundReading> m_reading;
+    std::unique_ptr<DocumentPlot> m_plot; ///< null before it was wanted
     DocumentMenus *m_menus = nullptr;   // owned by the window
     DocumentStatus *m_status = nullptr; // owned by the window
     ToolPalette *m_tools = nullptr;     // owned by the window

@@ -3,6 +3,7 @@
 #include "axes/CurrentAxes.h"
 #include "capture/DataSeries.h"
 #include "document/DocumentFacts.h"
+#include "document/DocumentPlot.h"
 #include "imageview/GraphImageView.h"
 #include "infopanel/InfoPanelController.h"
 #include "platform/HelpViewer.h"
@@ -26,6 +27,13 @@ void MyDocument::showAxisHelp() { openHelp(m_services, helpbook::axisSettings); 
 
 void MyDocument::showDigitizeHelp() { openHelp(m_services, helpbook::digitizing); }
 
+void MyDocument::showResult()
+{
+    if (m_plot == nullptr)
+        m_plot = std::make_unique<DocumentPlot>(*this, m_services);
+    m_plot->show();
+}
+
 void MyDocument::showInInfoPanel() const
 {
     const DocumentFacts facts(*this);
@@ -46,4 +54,6 @@ void MyDocument::prefsChanged()
     else
         m_dataSeries->setMarkerPreview();
     m_graphView->prefsChanged();
+    if (m_plot != nullptr)
+        m_plot->documentChanged();
 }

@@ -332,6 +332,12 @@ void GraphImageView::prefsChanged()
     setNeedsDisplay();
 }
 
+void GraphImageView::setShowsAxisGrid(bool shows)
+{
+    m_showsAxisGrid = shows;
+    setNeedsDisplay();
+}
+
 void GraphImageView::windowWillClose()
 {
     giveUpOpening();

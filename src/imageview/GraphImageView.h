@@ -3,6 +3,7 @@
 #include "archiving/ArchiveTree.h"
 #include "geometry/FloatGeometry.h"
 #include "imageview/ArchivedPicture.h"
+#include "imageview/AxisGridLayer.h"
 #include "imageview/DropTarget.h"
 #include "imageview/MouseCursors.h"
 #include "imageview/MouseDownMode.h"
@@ -191,6 +192,10 @@ public:
     void setForcedMode(std::optional<MouseDownMode> mode);
     [[nodiscard]] std::optional<MouseDownMode> forcedMode() const { return m_forcedMode; }
 
+    /// Whether the grid that the axes imply lies over the picture, while they imply one.
+    void setShowsAxisGrid(bool shows);
+    [[nodiscard]] bool showsAxisGrid() const { return m_showsAxisGrid; }
+
     /// Cuts zoomAreaRect() out of the picture; nothing if it is empty.
     [[nodiscard]] std::optional<Picture> createSubImage();
     /// `trimAlertDidEnd:returnCode:contextInfo:`: the user has answered whether to trim.
@@ -289,6 +294,7 @@ private:
 
     void drawRect(QPainter &painter, const QRect &dirtyRect);
     void drawPicture(QPainter &painter, const QRect &dirtyRect);
+    void drawAxisGrid(QPainter &painter);
     static void drawDropVeil(QPainter &painter, const QRect &dirtyRect);
 
     [[nodiscard]] FloatPoint viewPoint(QPointF widgetPosition) const;
@@ -329,6 +335,8 @@ private:
     bool m_trimQuestionIsOpen = false;
     std::optional<MouseDownMode> m_forcedMode;
     MouseCursors m_cursors;
+    bool m_showsAxisGrid = false;
+    AxisGridLayer m_axisGrid;
 
     bool m_leftButtonIsDown = false; ///< a press that counted, until its release
     bool m_windowIsBlocked = false;  ///< a sheet is open, and no release arrives

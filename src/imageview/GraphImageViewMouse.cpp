@@ -401,6 +401,8 @@ void GraphImageView::drawPicture(QPainter &painter, const QRect &dirtyRect)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0, static_cast<qreal>(m_scaledImage->size().height));
     painter.scale(1, -1);
+    if (m_showsAxisGrid)
+        drawAxisGrid(painter);
     if (m_outlets.document->isInAxisSettingMode()) {
         m_outlets.currentAxes->drawAxisWithScale(painter, m_imageScale);
     } else {
@@ -408,4 +410,14 @@ void GraphImageView::drawPicture(QPainter &painter, const QRect &dirtyRect)
         m_outlets.dataSeries->drawDataMarkersWithScale(painter, m_imageScale);
     }
     painter.restore();
+}
+
+/// While axes are set the grid follows them; while points are taken it is that of the points.
+void GraphImageView::drawAxisGrid(QPainter &painter)
+{
+    const auto converter = m_outlets.document->isInAxisSettingMode()
+                               ? m_outlets.currentAxes->makeAxisConverter()
+                               : m_outlets.cursorGuide->converter();
+    if (converter != nullptr)
+        m_axisGrid.draw(painter, *converter, imageSizeWithRotate(), m_imageScale);
 }

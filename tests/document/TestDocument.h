@@ -11,6 +11,7 @@
 #include "platform/HelpViewer.h"
 #include "platform/NotificationCentre.h"
 #include "platform/UserDefaults.h"
+#include "plot/PlotTools.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeDesktop.h"
@@ -90,6 +91,7 @@ public:
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override { return {}; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
     ExportChoices &exportChoices() override { return m_exportChoices; }
+    PlotTools &plotTools() override { return plots; }
     RecoveryStore &recoveryStore() override { return m_recovery; }
     [[nodiscard]] QString recoveryFolder() const
     {
@@ -127,6 +129,11 @@ private:
     ExportChoices m_exportChoices;
     UserDefaults m_defaults;
     CurvegrabPrefs m_prefs;
+
+public:
+    /// Without a module, unless a test brings it.
+    PlotTools plots{PlotModule(m_folder.filePath(QStringLiteral("modules"))),
+                    PlotChoices(m_folder.filePath(QStringLiteral("plot.json")))};
 };
 
 /// A document in a shown window, used through the events and commands that a user has.

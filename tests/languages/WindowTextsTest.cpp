@@ -34,6 +34,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -280,6 +281,19 @@ TEST_P(WindowTexts, ofThePreferencesFit)
         EXPECT_EQ(showntexts::keysOfTwo(nullptr, preferences).join(u'\n').toStdString(), "");
         preferences.reject();
     }
+}
+
+TEST_P(WindowTexts, ofThePlotFit)
+{
+    // Without the module, which the tests do not have, the window has the longest text.
+    command("showResult");
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto plot = std::find_if(windows.begin(), windows.end(), [](const QWidget *widget) {
+        return widget->objectName() == QStringLiteral("plotWindow");
+    });
+    ASSERT_NE(plot, windows.end());
+    EXPECT_NE((*plot)->findChild<QLabel *>(QStringLiteral("plotMissing")), nullptr);
+    expectAllIsShown(**plot);
 }
 
 TEST_P(WindowTexts, ofTheInfoPanelFit)

@@ -1,6 +1,7 @@
 // Installs what was built into a folder of its own and looks at it as a desktop does.
 #include "document/DocumentTypes.h"
 #include "document/ExampleDocuments.h"
+#include "plot/PlotModule.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -120,6 +121,7 @@ TEST_F(Install, putsEveryFileWhereItBelongsAndNoOther)
 {
     const QString share = QStringLiteral(CURVEGRAB_DATADIR "/");
     QStringList expected{QStringLiteral(CURVEGRAB_BINDIR "/curvegrab"),
+                         QStringLiteral(CURVEGRAB_LIBDIR "/curvegrab/curvegrabplot.so"),
                          QStringLiteral(CURVEGRAB_MANDIR "/man1/curvegrab.1"),
                          share + QStringLiteral("applications/" CURVEGRAB_DESKTOP_ID ".desktop"),
                          share + QStringLiteral("metainfo/" CURVEGRAB_DESKTOP_ID ".metainfo.xml"),
@@ -230,11 +232,28 @@ TEST_F(Install, theInstalledProgramFindsItsExamples)
         EXPECT_TRUE(folder.exists(QLatin1String(example.file))) << example.file;
 }
 
+TEST_F(Install, theInstalledProgramFindsWhatDrawsPlots)
+{
+    PlotModule module(PlotModule::folderFor(QFileInfo(program()).path()));
+    EXPECT_NE(module.maker(), nullptr) << qPrintable(module.folder());
+}
+
+// The program starts as quickly as if there were no plots.
+TEST_F(Install, theProgramItselfNeedsNoChartingLibrary)
+{
+    const Result needed = run(QStringLiteral("ldd"), {program()});
+    EXPECT_EQ(needed.exitCode, 0);
+    EXPECT_TRUE(needed.out.contains(QStringLiteral("libQt6Widgets")));
+    for (const char *const library : {"libQt6Charts", "libQt6OpenGL"})
+        EXPECT_FALSE(needed.out.contains(QLatin1String(library))) << library;
+}
+
 // A packager's build must not leave its own folders in what users get.
 TEST_F(Install, nothingRefersToTheFolderOfTheBuild)
 {
     for (const QString &name : installedFiles()) {
-        if (name == QStringLiteral(CURVEGRAB_BINDIR "/curvegrab"))
+        if (name == QStringLiteral(CURVEGRAB_BINDIR "/curvegrab") ||
+            name.startsWith(QStringLiteral(CURVEGRAB_LIBDIR "/")))
             continue; // debuggers look up the sources there
         QFile file(prefix() + u'/' + name);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));

@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>An &amp;Höhe anpassen</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>Achsen&amp;gitter anzeigen</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>E&amp;rgebnis anzeigen</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>Nach links &amp;drehen</translation>

@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>Fit &amp;Height</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>Show Axis &amp;Grid</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>Show &amp;Result</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>Turn &amp;Left</translation>

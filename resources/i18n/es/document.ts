@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>Ajustar a &amp;lo alto</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>Mostrar la re&amp;jilla de los ejes</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>Mostrar el res&amp;ultado</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>Girar a la &amp;izquierda</translation>

@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>Ajuster à la &amp;hauteur</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>Afficher la grille &amp;des axes</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>Affi&amp;cher le résultat</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>&amp;Tourner à gauche</translation>

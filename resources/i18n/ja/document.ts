@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>高さに合わせる(&amp;H)</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>軸の目盛線を表示(&amp;G)</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>結果を表示(&amp;R)</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>左に回転(&amp;L)</translation>

@@ -559,6 +559,14 @@
         <source>Fit &amp;Height</source>
         <translation>适合高度(&amp;H)</translation>
     </message>
+    <message id="document.command.axisGrid">
+        <source>Show Axis &amp;Grid</source>
+        <translation>显示坐标网格(&amp;G)</translation>
+    </message>
+    <message id="document.command.result">
+        <source>Show &amp;Result</source>
+        <translation>显示结果(&amp;R)</translation>
+    </message>
     <message id="document.command.rotateCcw">
         <source>Turn &amp;Left</source>
         <translation>向左旋转(&amp;L)</translation>

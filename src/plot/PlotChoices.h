@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/UserDefaults.h"
+#include "plot/PlotPicture.h"
+
+#include <QString>
+
+/// How plots were saved last; kept from session to session, apart from the preferences.
+class PlotChoices
+{
+public:
+    /// Kept in the file at `path`.
+    explicit PlotChoices(const QString &path);
+
+    /// SVG before anything was saved.
+    [[nodiscard]] plotpicture::Format format() const;
+    /// Empty before anything was saved, or if the folder is gone.
+    [[nodiscard]] QString folder() const;
+    void remember(plotpicture::Format format, const QString &folder);
+
+private:
+    UserDefaults m_state;
+};

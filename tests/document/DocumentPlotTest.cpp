@@ -1,0 +1,128 @@
+#include "document/TestDocument.h"
+#include "plot/PlotFigure.h"
+#include "plot/PlotView.h"
+#include "plot/PlotWindow.h"
+
+#include <QApplication>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A document whose services have the module that draws plots.
+class DocumentPlotTest : public ::testing::Test
+{
+protected:
+    DocumentPlotTest()
+    {
+        m_test.services.plots.module = PlotModule(QStringLiteral(CURVEGRAB_PLOT_MODULE_FOLDER));
+    }
+
+    static PlotWindow *plot()
+    {
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (auto *found = qobject_cast<PlotWindow *>(window))
+                return found;
+        return nullptr;
+    }
+
+    static QString note()
+    {
+        return plot()->findChild<QLabel *>(QStringLiteral("plotNote"))->text();
+    }
+
+    static bool isShown() { return plot() != nullptr && plot()->isVisible(); }
+    static QImage picture() { return plot()->view()->grab().toImage(); }
+
+    void press(Qt::Key key)
+    {
+        QWidget &window = m_test.document->window();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&m_test.document->graphView(), key,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        m_test.endEvent();
+    }
+
+    /// Whether the plot changes soon.
+    static bool changesFrom(const QImage &before)
+    {
+        return QTest::qWaitFor([&before] { return picture() != before; }, 2000);
+    }
+
+    TestDocument m_test;
+};
+
+} // namespace
+
+TEST_F(DocumentPlotTest, opensByItsKeys)
+{
+    EXPECT_EQ(plot(), nullptr);
+    press(Qt::Key_G);
+    EXPECT_TRUE(isShown());
+    EXPECT_FALSE(note().isEmpty());
+}
+
+TEST_F(DocumentPlotTest, followsPointsAndUndo)
+{
+    m_test.command("showResult");
+    const QImage empty = picture();
+    m_test.digitize();
+    m_test.click(120, 100);
+    EXPECT_TRUE(changesFrom(empty));
+    EXPECT_TRUE(QTest::qWaitFor([] { return note().isEmpty(); }));
+    m_test.command("undo");
+    EXPECT_TRUE(QTest::qWaitFor([] { return !note().isEmpty(); }));
+}
+
+TEST_F(DocumentPlotTest, followsTheAxes)
+{
+    m_test.command("showResult");
+    const QImage parallel = picture();
+    m_test.command("choosePolarAxes");
+    EXPECT_TRUE(changesFrom(parallel));
+}
+
+TEST_F(DocumentPlotTest, followsTheStyleOfASeries)
+{
+    m_test.digitize();
+    m_test.click(120, 100);
+    m_test.command("showResult");
+    const QImage before = picture();
+    CurvegrabPrefs &prefs = m_test.services.prefs();
+    PrefsDictionary style = prefs.plotPrefsForSeries(0);
+    prefs.setShape(3, style);
+    prefs.setPlotPrefs(style, 0);
+    m_test.document->prefsChanged();
+    EXPECT_TRUE(changesFrom(before));
+}
+
+TEST_F(DocumentPlotTest, catchesUpWhenItIsShownAgain)
+{
+    m_test.command("showResult");
+    plot()->close();
+    m_test.digitize();
+    m_test.click(120, 100);
+    m_test.command("showResult");
+    EXPECT_TRUE(isShown());
+    EXPECT_TRUE(note().isEmpty());
+}
+
+TEST_F(DocumentPlotTest, goesWithTheDocument)
+{
+    m_test.command("showResult");
+    ASSERT_TRUE(isShown());
+    m_test.markSaved();
+    m_test.document->window().close();
+    EXPECT_EQ(plot(), nullptr);
+}
+
+TEST_F(DocumentPlotTest, changesNothingInTheDocument)
+{
+    m_test.markSaved();
+    const QByteArray before = *m_test.document->dataOfType({});
+    m_test.command("showResult");
+    EXPECT_FALSE(m_test.document->isDocumentEdited());
+    EXPECT_TRUE(*m_test.document->dataOfType({}) == before);
+}
