@@ -16,7 +16,7 @@
     <message id="plot.save">
         <source>&amp;Save Picture…</source>
         <extracomment>Button below the plot.</extracomment>
-        <translation>Bild Bild &amp;sichern…amp;speichern…</translation>
+        <translation>Bild &amp;speichern…</translation>
     </message>
     <message id="plot.save.tip">
         <source>Save the plot as an SVG, PDF or PNG file</source>

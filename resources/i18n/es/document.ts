@@ -561,7 +561,7 @@
     </message>
     <message id="document.command.axisGrid">
         <source>Show Axis &amp;Grid</source>
-        <translation>Mostrar la re&amp;jilla de los ejes</translation>
+        <translation>Mo&amp;strar la cuadrícula de los ejes</translation>
     </message>
     <message id="document.command.result">
         <source>Show &amp;Result</source>

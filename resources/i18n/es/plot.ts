@@ -11,7 +11,7 @@
     <message id="plot.view.name">
         <source>Plot of the captured points</source>
         <extracomment>Accessible name of the plot.</extracomment>
-        <translation>Gráfica de los puntos capturados</translation>
+        <translation>Gráfico de los puntos capturados</translation>
     </message>
     <message id="plot.save">
         <source>&amp;Save Picture…</source>
@@ -21,12 +21,12 @@
     <message id="plot.save.tip">
         <source>Save the plot as an SVG, PDF or PNG file</source>
         <extracomment>Tool tip of the button.</extracomment>
-        <translation>Guardar la gráfica en un archivo SVG, PDF o PNG</translation>
+        <translation>Guardar el gráfico en un archivo SVG, PDF o PNG</translation>
     </message>
     <message id="plot.save.message">
         <source>Save the plot</source>
         <extracomment>Title of the save panel.</extracomment>
-        <translation>Guardar la gráfica</translation>
+        <translation>Guardar el gráfico</translation>
     </message>
     <message id="plot.format.svg">
         <source>SVG drawing</source>
@@ -56,7 +56,7 @@
     <message id="plot.missing">
         <source>Plots cannot be shown because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
         <extracomment>In place of the plot; %1 is a folder.</extracomment>
-        <translation>No se puede mostrar la gráfica porque falta una parte de Curvegrab X. Vuelva a instalar el programa. Esa parte debe estar en %1.</translation>
+        <translation>No se puede mostrar el gráfico porque falta una parte de Curvegrab X. Vuelva a instalar el programa. Esa parte debe estar en %1.</translation>
     </message>
     <message id="plot.failed">
         <source>“%1” could not be saved</source>

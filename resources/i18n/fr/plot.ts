@@ -51,7 +51,7 @@
     <message id="plot.leftOut">
         <source>Points that have no place on these axes: %d</source>
         <extracomment>Below the plot; %d is their number. Such points are not above zero on a logarithmic axis, or no numbers.</extracomment>
-        <translation>Points sans place sur ces axes : %d</translation>
+        <translation>Points sans place sur ces axes : %d</translation>
     </message>
     <message id="plot.missing">
         <source>Plots cannot be shown because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
@@ -61,7 +61,7 @@
     <message id="plot.failed">
         <source>“%1” could not be saved</source>
         <extracomment>Title of a message; %1 is the name of a file.</extracomment>
-        <translation>« %1 » n’a pas pu être enregistré</translation>
+        <translation>« %1 » n’a pas pu être enregistré</translation>
     </message>
     <message id="plot.noMemory">
         <source>There is not enough memory for a picture of this size. Make the window smaller, and try again.</source>

@@ -11,7 +11,7 @@
     <message id="plot.view.name">
         <source>Plot of the captured points</source>
         <extracomment>Accessible name of the plot.</extracomment>
-        <translation>取り込んだ点のグラフ</translation>
+        <translation>取得した点のグラフ</translation>
     </message>
     <message id="plot.save">
         <source>&amp;Save Picture…</source>
@@ -21,7 +21,7 @@
     <message id="plot.save.tip">
         <source>Save the plot as an SVG, PDF or PNG file</source>
         <extracomment>Tool tip of the button.</extracomment>
-        <translation>グラフをSVG、PDF、PNGのいずれかのファイルに保存します</translation>
+        <translation>グラフを SVG、PDF、PNG のいずれかのファイルに保存します</translation>
     </message>
     <message id="plot.save.message">
         <source>Save the plot</source>
@@ -31,22 +31,22 @@
     <message id="plot.format.svg">
         <source>SVG drawing</source>
         <extracomment>A kind of file in the save panel.</extracomment>
-        <translation>SVG図面</translation>
+        <translation>SVG 図形</translation>
     </message>
     <message id="plot.format.pdf">
         <source>PDF document</source>
         <extracomment>A kind of file in the save panel.</extracomment>
-        <translation>PDF文書</translation>
+        <translation>PDF ドキュメント</translation>
     </message>
     <message id="plot.format.png">
         <source>PNG picture</source>
         <extracomment>A kind of file in the save panel.</extracomment>
-        <translation>PNG画像</translation>
+        <translation>PNG 画像</translation>
     </message>
     <message id="plot.empty">
         <source>No points have been captured yet.</source>
         <extracomment>Below an empty plot.</extracomment>
-        <translation>まだ点が取り込まれていません。</translation>
+        <translation>まだ点を取得していません。</translation>
     </message>
     <message id="plot.leftOut">
         <source>Points that have no place on these axes: %d</source>
@@ -56,7 +56,7 @@
     <message id="plot.missing">
         <source>Plots cannot be shown because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
         <extracomment>In place of the plot; %1 is a folder.</extracomment>
-        <translation>Curvegrab Xの一部が見つからないため、グラフを表示できません。プログラムをもう一度インストールしてください。必要な部分の場所: %1</translation>
+        <translation>Curvegrab X の一部が見つからないため、グラフを表示できません。プログラムをもう一度インストールしてください。必要な部分の場所: %1</translation>
     </message>
     <message id="plot.failed">
         <source>“%1” could not be saved</source>
@@ -66,7 +66,7 @@
     <message id="plot.noMemory">
         <source>There is not enough memory for a picture of this size. Make the window smaller, and try again.</source>
         <extracomment>Explanation of a message.</extracomment>
-        <translation>この大きさの画像にはメモリが足りません。ウィンドウを小さくしてから、もう一度お試しください。</translation>
+        <translation>この大きさの画像にはメモリーが足りません。ウィンドウを小さくしてから、もう一度お試しください。</translation>
     </message>
 </context>
 </TS>

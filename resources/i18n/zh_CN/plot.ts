@@ -11,7 +11,7 @@
     <message id="plot.view.name">
         <source>Plot of the captured points</source>
         <extracomment>Accessible name of the plot.</extracomment>
-        <translation>已采集点的图</translation>
+        <translation>已采集点的绘图</translation>
     </message>
     <message id="plot.save">
         <source>&amp;Save Picture…</source>
@@ -21,12 +21,12 @@
     <message id="plot.save.tip">
         <source>Save the plot as an SVG, PDF or PNG file</source>
         <extracomment>Tool tip of the button.</extracomment>
-        <translation>将图保存为 SVG、PDF 或 PNG 文件</translation>
+        <translation>将绘图保存为 SVG、PDF 或 PNG 文件</translation>
     </message>
     <message id="plot.save.message">
         <source>Save the plot</source>
         <extracomment>Title of the save panel.</extracomment>
-        <translation>保存图</translation>
+        <translation>保存绘图</translation>
     </message>
     <message id="plot.format.svg">
         <source>SVG drawing</source>
@@ -56,7 +56,7 @@
     <message id="plot.missing">
         <source>Plots cannot be shown because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
         <extracomment>In place of the plot; %1 is a folder.</extracomment>
-        <translation>无法显示图，因为缺少 Curvegrab X 的一部分。请重新安装本程序。该部分应位于 %1。</translation>
+        <translation>无法显示绘图，因为缺少 Curvegrab X 的一部分。请重新安装本程序。该部分应位于 %1。</translation>
     </message>
     <message id="plot.failed">
         <source>“%1” could not be saved</source>
