@@ -18,12 +18,13 @@ QColor mixed(const QColor &base, const QColor &added)
 /// The bar at the edge of a button where its text begins.
 QRect barOf(const QStyleOption &button)
 {
-    constexpr int margin = 3;
+    constexpr int inset = 1; // a symbol stands close to the edge
+    constexpr int margin = 6;
     constexpr int width = 3;
     const QRect &all = button.rect;
     return QStyle::visualRect(
         button.direction, all,
-        QRect(all.left() + margin, all.top() + 2 * margin, width, all.height() - 4 * margin));
+        QRect(all.left() + inset, all.top() + margin, width, all.height() - 2 * margin));
 }
 
 } // namespace
