@@ -54,8 +54,11 @@ struct Reading
 /// The file's bytes. An object that stands at several places of the tree is written once.
 [[nodiscard]] QByteArray archivedData(const ArchiveDictionary &root);
 
+/// What becomes of pictures: without their pixels they are not copied, and still tell their size.
+enum class Pixels { Kept, LeftOut };
+
 /// Reads a file of any content, however damaged or hostile.
-[[nodiscard]] Reading unarchived(const QByteArray &bytes);
+[[nodiscard]] Reading unarchived(const QByteArray &bytes, Pixels pixels = Pixels::Kept);
 
 /// The picture of a document; null without one.
 [[nodiscard]] std::shared_ptr<const ArchivedPicture> pictureIn(const ArchiveDictionary &root);

@@ -6,6 +6,7 @@
 #include "conversion/ConverterArchive.h"
 #include "document/DocumentKeys.h"
 #include "document/DocumentSchema.h"
+#include "document/PictureHead.h"
 #include "geometry/ZKVector.h"
 #include "imageview/ArchivedPicture.h"
 
@@ -15,11 +16,13 @@
 #include <array>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <utility>
 
 using documentarchive::Damage;
 using documentarchive::Fault;
+using documentarchive::Pixels;
 
 namespace {
 
@@ -60,10 +63,12 @@ class TreeReader
 {
 public:
     /// `offset` is the place of `bytes` in the file, for reports.
-    explicit TreeReader(const QByteArray &bytes, qint64 offset = 0)
+    TreeReader(const QByteArray &bytes, Pixels pixels, qint64 offset = 0)
         : m_reader(bytes)
+        , m_bytes(bytes)
         , m_size(bytes.size())
         , m_offset(offset)
+        , m_pixels(pixels)
     {}
 
     [[nodiscard]] ArchiveDictionary readRoot()
@@ -275,6 +280,44 @@ private:
         }
     }
 
+    /// The bytes at hand as a picture without its pixels, which are passed over where they stand in
+    /// one piece; null once the reading has ended.
+    ArchivedBytes readPictureHead()
+    {
+        std::span<const std::byte> picture;
+        ArchivedBytes pieces;
+        if (m_reader.isLengthKnown()) {
+            picture = passOverBytes();
+        } else if ((pieces = readBytes())) {
+            picture = *pieces;
+        }
+        if (m_stopped)
+            return nullptr;
+        return std::make_shared<const std::vector<std::byte>>(picturehead::of(picture));
+    }
+
+    /// The bytes at hand, of known length, where they stand in the file.
+    std::span<const std::byte> passOverBytes()
+    {
+        const qint64 length = m_reader.currentStringChunkSize();
+        if (length < 0 || length > bytesLeft()) {
+            stop(Fault::EndsEarly);
+            return {};
+        }
+        char nothing = 0;
+        auto chunk = m_reader.readStringChunk(&nothing, 0); // what has no room is passed over
+        while (chunk.status == QCborStreamReader::Ok)
+            chunk = m_reader.readStringChunk(&nothing, 0);
+        const qint64 end = m_reader.currentOffset();
+        if (chunk.status == QCborStreamReader::Error || end < length || end > m_size) {
+            checkReader();
+            stop(Fault::Unreadable);
+            return {};
+        }
+        return std::as_bytes(
+            std::span(m_bytes.constData() + end - length, static_cast<std::size_t>(length)));
+    }
+
     ArchiveArray readArray(int depth)
     {
         ArchiveArray array;
@@ -398,7 +441,7 @@ private:
             return advance(depth) && number;
         }
         if (m_reader.isByteArray()) {
-            items.emplace_back(readBytes());
+            items.emplace_back(m_pixels == Pixels::Kept ? readBytes() : readPictureHead());
             return !m_stopped;
         }
         if (m_reader.isArray())
@@ -446,8 +489,10 @@ private:
     }
 
     QCborStreamReader m_reader;
-    qint64 m_size;
-    qint64 m_offset;
+    const QByteArray m_bytes;
+    const qint64 m_size;
+    const qint64 m_offset;
+    const Pixels m_pixels;
     std::string m_part;
     std::vector<Object> m_shared;
     std::vector<Damage> m_damages;
@@ -457,7 +502,7 @@ private:
 
 /// Looks for the components that the reading did not come to, by their keys, and reads them where
 /// they stand.
-void findMissingParts(const QByteArray &bytes, ArchiveDictionary &root)
+void findMissingParts(const QByteArray &bytes, Pixels pixels, ArchiveDictionary &root)
 {
     for (const char *const part : {documentkeys::graphImageViewData,
                                    documentkeys::dataTableViewData, documentkeys::currentAxesData,
@@ -470,7 +515,7 @@ void findMissingParts(const QByteArray &bytes, ArchiveDictionary &root)
             continue;
         const qsizetype begin = place + key.size();
         TreeReader reader(QByteArray::fromRawData(bytes.constData() + begin, bytes.size() - begin),
-                          begin);
+                          pixels, begin);
         ArchiveValue value = reader.readPart(part);
         if (std::holds_alternative<ArchiveDictionary>(value.value))
             root.set(part, std::move(value));
@@ -481,14 +526,14 @@ void findMissingParts(const QByteArray &bytes, ArchiveDictionary &root)
 
 namespace documentarchive {
 
-Reading unarchived(const QByteArray &bytes)
+Reading unarchived(const QByteArray &bytes, Pixels pixels)
 {
-    TreeReader reader(bytes);
+    TreeReader reader(bytes, pixels);
     Reading reading;
     reading.root = reader.readRoot();
     reading.damages = reader.damages();
     if (reader.stopped())
-        findMissingParts(bytes, reading.root);
+        findMissingParts(bytes, pixels, reading.root);
     documentschema::check(reading.root, reading.damages);
     return reading;
 }

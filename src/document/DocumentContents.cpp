@@ -60,7 +60,8 @@ DocumentContents DocumentContents::fromRoot(const ArchiveDictionary &root)
 
 ReadDocumentFile readDocument(const QByteArray &bytes)
 {
-    const documentarchive::Reading reading = documentarchive::unarchived(bytes);
+    const documentarchive::Reading reading =
+        documentarchive::unarchived(bytes, documentarchive::Pixels::LeftOut);
     ReadDocumentFile result{{}, documentarchive::description(reading.damages)};
     if (reading.isWhole() || !reading.root.entries().empty())
         result.contents = DocumentContents::fromRoot(reading.root);

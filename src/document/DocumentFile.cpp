@@ -34,14 +34,17 @@ QString tooLarge() { return texts::localized("document.open.tooLarge"); }
 /// Reads up to the end; false if that does not fit. A pipe has no size beforehand.
 bool readAll(QFile &file, QByteArray &bytes, std::uint64_t memoryLimit, const std::stop_token &stop)
 {
-    bytes.reserve(static_cast<qsizetype>(std::max<qint64>(file.size(), 0)));
+    // With room for the look behind the end.
+    bytes.reserve(static_cast<qsizetype>(std::max<qint64>(file.size(), 0) + pieceSize));
     while (!stop.stop_requested()) {
-        const QByteArray piece = file.read(pieceSize);
-        if (piece.isEmpty())
+        const qsizetype filled = bytes.size();
+        bytes.resize(filled + pieceSize);
+        const qint64 length = file.read(bytes.data() + filled, pieceSize);
+        bytes.resize(filled + static_cast<qsizetype>(std::max<qint64>(length, 0)));
+        if (length <= 0)
             return true;
-        if (!fits(bytes.size() + piece.size(), memoryLimit))
+        if (!fits(bytes.size(), memoryLimit))
             return false;
-        bytes += piece;
     }
     bytes.clear();
     return true;
@@ -56,7 +59,7 @@ Content contentOf(const QString &path, std::uint64_t memoryLimit, const std::sto
     Content content;
     content.stamp = durablefile::stampOf(path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         content.error = file.errorString();
         return content;
     }

@@ -104,6 +104,36 @@ TEST_F(ExportCommand, severalTextsFollowEachOtherWithAnEmptyLineBetween)
     EXPECT_EQ(out(), "1\t-1\n\n1\t-1\n2\t-2\n");
 }
 
+TEST_F(ExportCommand, thePictureIsNeitherDecodedNorAReasonToFail)
+{
+    // A picture of its size is said to be there, but what stands for its pixels is none.
+    QByteArray bytes =
+        documentarchive::archivedData(sampleroots::root(sampleroots::Kind::Parallel));
+    const qsizetype pixels = bytes.indexOf("IDAT") + 4;
+    ASSERT_GE(pixels, 4);
+    bytes.replace(pixels, 20, QByteArray(20, 'x'));
+    const QString file = writeBytes("a.crvgrab", bytes);
+    const QString whole =
+        writeDocument("b.crvgrab", sampleroots::root(sampleroots::Kind::Parallel));
+    EXPECT_EQ(run({"--export", path("a.json"), file}), exitcode::success);
+    EXPECT_EQ(run({"--export", path("b.json"), whole}), exitcode::success);
+    EXPECT_TRUE(bytesOf("a.json").contains("\"picture\""));
+    EXPECT_EQ(bytesOf("a.json").replace("a.crvgrab", "b.crvgrab"), bytesOf("b.json"));
+}
+
+TEST_F(ExportCommand, aPictureThatNoMemoryCouldHoldDoesNotMatter)
+{
+    // Its head says 60,000 by 60,000 pixels.
+    QByteArray bytes =
+        documentarchive::archivedData(sampleroots::root(sampleroots::Kind::Parallel));
+    const qsizetype size = bytes.indexOf("IHDR") + 4;
+    ASSERT_GE(size, 4);
+    bytes.replace(size, 8, QByteArray::fromHex("0000ea600000ea60"));
+    const QString file = writeBytes("a.crvgrab", bytes);
+    EXPECT_EQ(run({"--export", "-", "--no-titles", file}), exitcode::success);
+    EXPECT_EQ(out().count('\n'), 5);
+}
+
 TEST_F(ExportCommand, theExtensionOfTheOutputNamesTheFormat)
 {
     const QString file = writeDocument("a.crvgrab", rootWithPoints({2, 0, 1}));

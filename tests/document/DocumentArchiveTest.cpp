@@ -431,6 +431,64 @@ TEST(DocumentContents, givesTheNumbersOfADocumentWithoutItsWindow)
     EXPECT_EQ(read.contents->picture->rotation, 90);
 }
 
+TEST(DocumentArchive, withoutPixelsEverythingElseIsThere)
+{
+    const QByteArray bytes = archivedData(sampleroots::root(Kind::Quadrangle));
+    const Reading whole = unarchived(bytes);
+    const Reading numbers = unarchived(bytes, documentarchive::Pixels::LeftOut);
+    EXPECT_TRUE(numbers.isWhole());
+    const auto head = std::dynamic_pointer_cast<const ArchivedPicture>(pictureIn(numbers));
+    ASSERT_NE(head, nullptr);
+    EXPECT_EQ(head->size(), (FloatSize{40, 30}));
+    EXPECT_FALSE(head->picture());
+    for (const char *part : {documentkeys::currentAxesData, documentkeys::cursorGuideData,
+                             documentkeys::dataSeriesData}) {
+        ArchiveDictionary one;
+        one.set(part, *whole.root.find(part));
+        ArchiveDictionary other;
+        other.set(part, *numbers.root.find(part));
+        EXPECT_EQ(archivedData(one), archivedData(other)) << part;
+    }
+}
+
+TEST(DocumentArchive, withoutPixelsADamagedFileIsDamagedInTheSameWay)
+{
+    const QByteArray bytes = archivedData(sampleroots::root(Kind::Parallel));
+    for (qsizetype length = 0; length < bytes.size(); length += 3) {
+        const QByteArray cut = bytes.first(length);
+        EXPECT_EQ(unarchived(cut, documentarchive::Pixels::LeftOut).damages,
+                  unarchived(cut).damages)
+            << length;
+    }
+}
+
+TEST(DocumentArchive, aPictureInPiecesLosesItsPixelsToo)
+{
+    const auto picture =
+        std::dynamic_pointer_cast<const ArchivedPicture>(sampleroots::picture({40, 30}));
+    const auto *begin = reinterpret_cast<const char *>(picture->bytes()->data());
+    const QByteArray png(begin, static_cast<qsizetype>(picture->bytes()->size()));
+    QByteArray bytes;
+    QCborStreamWriter writer(&bytes);
+    writer.startMap(1);
+    writer.append(QLatin1String(documentkeys::graphImageViewData));
+    writer.startMap(1);
+    writer.append(QLatin1String("Original Image"));
+    writer.append(QCborTag(27));
+    writer.startArray(2);
+    writer.append(QLatin1String("NSImage"));
+    // Of unknown length: two pieces and an end.
+    QByteArray pieces("\x5f");
+    for (const QByteArray &piece : {png.first(50), png.mid(50)})
+        pieces += QCborValue(piece).toCbor();
+    bytes += pieces + "\xff";
+    const Reading reading = unarchived(bytes, documentarchive::Pixels::LeftOut);
+    const auto head = std::dynamic_pointer_cast<const ArchivedPicture>(pictureIn(reading));
+    ASSERT_NE(head, nullptr);
+    EXPECT_EQ(head->size(), (FloatSize{40, 30}));
+    EXPECT_FALSE(head->picture());
+}
+
 TEST(DocumentContents, aMissingFileIsAnErrorWithoutContents)
 {
     const ReadDocumentFile read = readDocumentFile(QStringLiteral("/nowhere/chart.crvgrab"));
