@@ -177,16 +177,44 @@ void DataTableView::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    if (!pressColumn(columnAt(event->position().toPoint().x()), event->modifiers()))
+    const QPoint position = event->position().toPoint();
+    const int column = columnAt(position.x());
+    m_columnToPress = waitsForRelease(column, event->modifiers()) ? column : -1;
+    if (m_columnToPress < 0 && !pressColumn(column, event->modifiers()))
         QTableView::mousePressEvent(event);
+    m_dragStart = isColumnSelected(column) ? std::optional(position) : std::nullopt;
+}
+
+/// A press on one of several selected columns may begin a drag of all of them: only its release
+/// selects that column alone.
+bool DataTableView::waitsForRelease(int column, Qt::KeyboardModifiers modifiers) const
+{
+    return modifiers == Qt::NoModifier && isColumnSelected(column) && m_selectedColumns.size() > 1;
 }
 
 void DataTableView::mouseDoubleClickEvent(QMouseEvent *event) { mousePressEvent(event); }
 
 // What follows a press belongs to the press: no drag selects cells.
-void DataTableView::mouseMoveEvent(QMouseEvent *event) { event->accept(); }
+void DataTableView::mouseMoveEvent(QMouseEvent *event)
+{
+    event->accept();
+    if (!m_dragStart || !event->buttons().testFlag(Qt::LeftButton))
+        return;
+    const QPoint way = event->position().toPoint() - *m_dragStart;
+    if (way.manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_dragStart.reset();
+    m_columnToPress = -1;
+    Q_EMIT selectionDragged();
+}
 
-void DataTableView::mouseReleaseEvent(QMouseEvent *event) { event->accept(); }
+void DataTableView::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+    m_dragStart.reset();
+    if (event->button() == Qt::LeftButton && m_columnToPress >= 0)
+        pressColumn(std::exchange(m_columnToPress, -1), Qt::NoModifier);
+}
 
 void DataTableView::setSelection(const QRect & /*rect*/,
                                  QItemSelectionModel::SelectionFlags /*command*/)

@@ -3,7 +3,10 @@
 #include "archiving/ArchiveTree.h"
 #include "capture/CaptureSurroundings.h"
 
+#include <QPoint>
 #include <QTableView>
+
+#include <optional>
 
 class DataTableHeader;
 class DataTableModel;
@@ -58,6 +61,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Other columns are selected than before.
     void selectedColumnsChanged();
+    /// The user drags the selected columns away; the button is down.
+    void selectionDragged();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -75,6 +80,7 @@ private:
     /// A press on a column, of its body or of its header; false when it is for the platform's
     /// table.
     bool pressColumn(int column, Qt::KeyboardModifiers modifiers);
+    [[nodiscard]] bool waitsForRelease(int column, Qt::KeyboardModifiers modifiers) const;
     void moveCurrentColumn(int step, Qt::KeyboardModifiers modifiers);
     void setCurrentColumn(int column);
     bool scrollByKey(int key);
@@ -87,4 +93,8 @@ private:
     IndexSet m_selectedColumns;
     int m_lastClickedCol = -1;
     int m_currentColumn = -1;
+    /// Where a drag of the selected columns would begin.
+    std::optional<QPoint> m_dragStart;
+    /// The column that a release without a drag will press; -1 without one.
+    int m_columnToPress = -1;
 };

@@ -6,6 +6,7 @@
 #include "platform/SystemClipboard.h"
 #include "platform/SystemDesktop.h"
 #include "platform/SystemPasteboard.h"
+#include "platform/SystemTableDrag.h"
 #include "platform/Texts.h"
 #include "platform/WindowFilePanels.h"
 #include "platform/WindowPasswordSheets.h"
@@ -28,12 +29,15 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, const QString &sta
     , m_prefs(prefs)
     , m_panels(std::make_unique<ApplicationPanels>(prefs))
     , m_recentFiles(QDir(stateFolder).filePath(QStringLiteral("state.json")))
+    , m_recentThumbnails(QDir(stateFolder).filePath(QStringLiteral("thumbnails")))
     , m_exportChoices(QDir(stateFolder).filePath(QStringLiteral("export.json")))
     , m_plotTools{PlotModule(PlotModule::folderFor(QCoreApplication::applicationDirPath())),
                   PlotChoices(QDir(stateFolder).filePath(QStringLiteral("plot.json")))}
+    , m_sessionMemory(QDir(stateFolder).filePath(QStringLiteral("session.json")))
     , m_recovery(QDir(stateFolder).filePath(QStringLiteral("recovery")))
     , m_clipboard(std::make_unique<SystemClipboard>())
     , m_pasteboard(std::make_unique<SystemPasteboard>())
+    , m_tableDrag(std::make_unique<SystemTableDrag>())
 {
     m_sharedItems.showHideTable =
         addSharedItem("showHideDataTable", "ShowTable", 0, QKeySequence(QStringLiteral("Ctrl+T")),
@@ -104,10 +108,12 @@ Clipboard &DocumentController::clipboard() { return *m_clipboard; }
 
 Pasteboard &DocumentController::pasteboard() { return *m_pasteboard; }
 
+TableDrag &DocumentController::tableDrag() { return *m_tableDrag; }
+
 WindowDialogs DocumentController::makeDialogs(QWidget &window)
 {
     auto sheets = std::make_unique<WindowSheets>(&window);
-    auto panels = std::make_unique<WindowFilePanels>(*sheets);
+    auto panels = std::make_unique<WindowFilePanels>(*sheets, m_sessionMemory);
     auto passwords = std::make_unique<WindowPasswordSheets>(*sheets);
     return {std::move(sheets), std::move(panels), std::move(passwords)};
 }

@@ -4,7 +4,9 @@
 #include "document/DocumentServices.h"
 #include "document/ExportChoices.h"
 #include "document/RecentFiles.h"
+#include "document/RecentThumbnails.h"
 #include "document/RecoveryStore.h"
+#include "document/SessionMemory.h"
 #include "plot/PlotTools.h"
 
 #include <QObject>
@@ -56,6 +58,7 @@ public:
 
     [[nodiscard]] CurvegrabPrefs &prefs() override { return m_prefs; }
     [[nodiscard]] Clipboard &clipboard() override;
+    [[nodiscard]] TableDrag &tableDrag() override;
     [[nodiscard]] Pasteboard &pasteboard() override;
     [[nodiscard]] NotificationCentre &notificationCentre() override;
     [[nodiscard]] HelpViewer &helpViewer() override;
@@ -69,8 +72,10 @@ public:
     [[nodiscard]] QString examplesFolder() const override;
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override;
     [[nodiscard]] RecentFiles &recentFiles() override { return m_recentFiles; }
+    [[nodiscard]] RecentThumbnails &recentThumbnails() override { return m_recentThumbnails; }
     [[nodiscard]] ExportChoices &exportChoices() override { return m_exportChoices; }
     [[nodiscard]] PlotTools &plotTools() override { return m_plotTools; }
+    [[nodiscard]] SessionMemory &sessionMemory() override { return m_sessionMemory; }
     [[nodiscard]] RecoveryStore &recoveryStore() override { return m_recovery; }
     void terminate() override;
     void documentBecameKey(MyDocument &document) override;
@@ -112,12 +117,15 @@ private:
     CurvegrabPrefs &m_prefs;
     std::unique_ptr<ApplicationPanels> m_panels; // the documents go before it
     RecentFiles m_recentFiles;
+    RecentThumbnails m_recentThumbnails;
     ExportChoices m_exportChoices;
     PlotTools m_plotTools;
+    SessionMemory m_sessionMemory;
     RecoveryStore m_recovery;
     DocumentMenus::SharedItems m_sharedItems;
     std::unique_ptr<SystemClipboard> m_clipboard;
     std::unique_ptr<SystemPasteboard> m_pasteboard;
+    std::unique_ptr<TableDrag> m_tableDrag;
     std::vector<std::unique_ptr<MyDocument>> m_documents;
     MyDocument *m_keyDocument = nullptr;
     std::vector<std::function<void()>> m_afterOpening;

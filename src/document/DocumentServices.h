@@ -21,7 +21,10 @@ class NotificationCentre;
 class Pasteboard;
 struct PlotTools;
 class RecentFiles;
+class RecentThumbnails;
 class RecoveryStore;
+class SessionMemory;
+class TableDrag;
 class QWidget;
 
 /// What a window asks its user with. The panels go before the sheets.
@@ -41,6 +44,7 @@ public:
     [[nodiscard]] virtual CurvegrabPrefs &prefs() = 0;
     [[nodiscard]] virtual Clipboard &clipboard() = 0;
     [[nodiscard]] virtual Pasteboard &pasteboard() = 0;
+    [[nodiscard]] virtual TableDrag &tableDrag() = 0;
     [[nodiscard]] virtual NotificationCentre &notificationCentre() = 0;
     [[nodiscard]] virtual HelpViewer &helpViewer() = 0;
     [[nodiscard]] virtual DocumentMenus::SharedItems sharedItems() = 0;
@@ -61,9 +65,11 @@ public:
     /// The documents whose windows are open, oldest first.
     [[nodiscard]] virtual std::vector<MyDocument *> openDocuments() const = 0;
     [[nodiscard]] virtual RecentFiles &recentFiles() = 0;
+    [[nodiscard]] virtual RecentThumbnails &recentThumbnails() = 0;
     [[nodiscard]] virtual ExportChoices &exportChoices() = 0;
     /// What all plots share.
     [[nodiscard]] virtual PlotTools &plotTools() = 0;
+    [[nodiscard]] virtual SessionMemory &sessionMemory() = 0;
     /// Where unsaved changes are kept safe from a crash.
     [[nodiscard]] virtual RecoveryStore &recoveryStore() = 0;
     virtual void terminate() = 0;

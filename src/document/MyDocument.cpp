@@ -13,6 +13,7 @@
 #include "document/ExamplesMenu.h"
 #include "document/ExportFormats.h"
 #include "document/RecentFiles.h"
+#include "document/RecentThumbnails.h"
 #include "document/ToolPalette.h"
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
@@ -21,6 +22,7 @@
 #include "infopanel/InfoPanelController.h"
 #include "platform/NotificationCentre.h"
 #include "platform/Pasteboard.h"
+#include "platform/TableDrag.h"
 #include "platform/Texts.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "ui_MyDocument.h"
@@ -125,6 +127,7 @@ void MyDocument::wire()
     connect(ui.dataTableDrawer, &TableDrawer::didClose, this, &MyDocument::drawerDidClose);
     connect(m_dataTableView, &DataTableView::selectedColumnsChanged, this,
             &MyDocument::showsChanged);
+    connect(m_dataTableView, &DataTableView::selectionDragged, this, &MyDocument::dragSelection);
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
     connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
     connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);
@@ -353,6 +356,7 @@ bool MyDocument::windowShouldClose()
 
 void MyDocument::windowWillClose()
 {
+    rememberWindowSize();
     m_graphView->windowWillClose();
     m_plot.reset();
     m_recovery->forget();
@@ -392,7 +396,13 @@ QString MyDocument::examplesFolder() const { return m_services.examplesFolder();
 
 std::vector<MyDocument *> MyDocument::openDocuments() const { return m_services.openDocuments(); }
 
-void MyDocument::clearRecentFiles() { m_services.recentFiles().clear(); }
+void MyDocument::clearRecentFiles()
+{
+    m_services.recentFiles().clear();
+    m_services.recentThumbnails().clear();
+}
+
+RecentThumbnails &MyDocument::recentThumbnails() const { return m_services.recentThumbnails(); }
 
 // Until a file is read whole there is nothing that could take its place.
 void MyDocument::saveDocument()
@@ -435,6 +445,14 @@ void MyDocument::undo() { m_undoManager.undo(); }
 void MyDocument::redo() { m_undoManager.redo(); }
 
 void MyDocument::copy() { m_dataSeries->copySelection(); }
+
+void MyDocument::dragSelection()
+{
+    const std::optional<QString> text = m_dataSeries->makeStringForSeries(
+        m_dataTableView->selectedColumnIndexes(), m_services.prefs().copyWithTitle());
+    if (text)
+        m_services.tableDrag().drag(*m_dataTableView->viewport(), *text);
+}
 
 void MyDocument::paste()
 {

@@ -40,6 +40,7 @@ class ExportFormats;
 class GraphImageView;
 class ImageViewAdapter;
 class PictureReadAhead;
+class RecentThumbnails;
 class SeriesExport;
 class ToolPalette;
 
@@ -130,6 +131,7 @@ public:
     void closeThen(std::function<void()> closed);
     void raise();
     [[nodiscard]] QStringList recentFiles() const;
+    [[nodiscard]] RecentThumbnails &recentThumbnails() const;
     /// How data were exported last.
     [[nodiscard]] ExportChoices &exportChoices() const;
     /// The folder with the documents that come with the program.
@@ -282,6 +284,9 @@ private:
     void restoreWindow(const ArchiveDictionary &root);
     void applyFrame(const QRect &frame);
     [[nodiscard]] QRect frameWithoutDrawer() const;
+    /// Lets the user drag the selected series away as copySelection() would copy them.
+    void dragSelection();
+    void rememberWindowSize();
     void openOwnPicture();
     /// `openImageFileDidEnd:returnCode:contextInfo:` takes the picture that the user has confirmed.
     void openImageFileDidEnd(const QString &path);
@@ -334,7 +339,7 @@ private:
     std::unique_ptr<DocumentRecovery> m_recovery;
     std::unique_ptr<BackgroundReading> m_reading;
     std::unique_ptr<DocumentPlot> m_plot; ///< null before it was wanted
-    DocumentMenus *m_menus = nullptr;   // owned by the window
-    DocumentStatus *m_status = nullptr; // owned by the window
-    ToolPalette *m_tools = nullptr;     // owned by the window
+    DocumentMenus *m_menus = nullptr;     // owned by the window
+    DocumentStatus *m_status = nullptr;   // owned by the window
+    ToolPalette *m_tools = nullptr;       // owned by the window
 };

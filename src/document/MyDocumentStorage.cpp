@@ -12,6 +12,7 @@
 #include "document/DocumentTypes.h"
 #include "document/DocumentWindow.h"
 #include "document/RecentFiles.h"
+#include "document/SessionMemory.h"
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureMemory.h"
@@ -48,7 +49,9 @@ ArchiveValue integerValue(int value) { return {std::int64_t{value}}; }
 
 void MyDocument::showWindow()
 {
-    m_window->resize(m_window->minimumSizeHint().expandedTo(newWindowSize));
+    const QSize size = m_services.sessionMemory().windowSize().value_or(newWindowSize);
+    const QSize room = m_window->screen()->availableGeometry().size();
+    m_window->resize(m_window->minimumSizeHint().expandedTo(size.boundedTo(room)));
     if (m_loadedDataDict) {
         windowControllerDidLoadNib();
         m_window->show();
@@ -229,6 +232,18 @@ QRect MyDocument::frameWithoutDrawer() const
         frame = m_window->normalGeometry();
     frame.setWidth(frame.width() - m_window->ui().dataTableDrawer->widthInWindow());
     return frame;
+}
+
+// Where windows stand is up to the desktop; only their size is worth remembering.
+void MyDocument::rememberWindowSize()
+{
+    if (!m_window->isVisible() && !m_window->isMinimized())
+        return;
+    const bool fillsScreen = m_window->isMaximized() || m_window->isFullScreen();
+    QSize size = fillsScreen ? m_window->normalGeometry().size() : m_window->size();
+    size.rwidth() -= m_window->ui().dataTableDrawer->widthInWindow();
+    if (!size.isEmpty())
+        m_services.sessionMemory().setWindowSize(size);
 }
 
 void MyDocument::whenOnScreen(std::function<void()> action)

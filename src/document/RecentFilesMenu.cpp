@@ -1,6 +1,8 @@
 #include "document/RecentFilesMenu.h"
 
 #include "document/MyDocument.h"
+#include "document/RecentThumbnails.h"
+#include "document/ThumbnailStyle.h"
 #include "platform/Texts.h"
 
 #include <QDir>
@@ -12,10 +14,18 @@ RecentFilesMenu::RecentFilesMenu(MyDocument &document, QMenu *menu)
 {
     setObjectName(QStringLiteral("recentFilesMenu"));
     setToolTipsVisible(true);
+    auto *style = new ThumbnailStyle;
+    style->setParent(this);
+    setStyle(style);
     menu->addMenu(this);
     connect(this, &QMenu::aboutToShow, this, &RecentFilesMenu::fill);
-    connect(menu, &QMenu::aboutToShow, this,
-            [this] { menuAction()->setEnabled(!m_document.recentFiles().isEmpty()); });
+    // With a start before they are looked at.
+    connect(menu, &QMenu::aboutToShow, this, [this] {
+        menuAction()->setEnabled(!m_document.recentFiles().isEmpty());
+        m_document.recentThumbnails().prepare(m_document.recentFiles());
+    });
+    connect(&m_document.recentThumbnails(), &RecentThumbnails::iconChanged, this,
+            &RecentFilesMenu::showIcon);
 }
 
 void RecentFilesMenu::fill()
@@ -28,6 +38,8 @@ void RecentFilesMenu::fill()
                                         .arg(file.fileName(), file.dir().dirName())
                                         .replace(QLatin1Char('&'), QStringLiteral("&&")));
         action->setToolTip(path);
+        action->setIcon(m_document.recentThumbnails().iconOf(path));
+        action->setIconVisibleInMenu(true);
         connect(action, &QAction::triggered, &m_document,
                 [this, path] { m_document.openFiles({path}); });
     }
@@ -35,4 +47,12 @@ void RecentFilesMenu::fill()
     QAction *empty = addAction(texts::localized("document.recent.clear"));
     empty->setObjectName(QStringLiteral("clearRecentFiles"));
     connect(empty, &QAction::triggered, &m_document, &MyDocument::clearRecentFiles);
+}
+
+void RecentFilesMenu::showIcon(const QString &path)
+{
+    for (QAction *action : actions()) {
+        if (action->toolTip() == path)
+            action->setIcon(m_document.recentThumbnails().iconOf(path));
+    }
 }

@@ -15,6 +15,7 @@ public:
 
 private:
     void fill();
+    void showIcon(const QString &path);
 
     MyDocument &m_document;
 };

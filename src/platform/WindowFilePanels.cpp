@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using Panel = PanelFolders::Panel;
+
 namespace {
 
 QString filter(const QString &name, const QString &patterns)
@@ -122,22 +124,30 @@ Sheet overwriteQuestion(const QString &path)
 
 } // namespace
 
-WindowFilePanels::WindowFilePanels(WindowSheets &sheets)
+WindowFilePanels::WindowFilePanels(WindowSheets &sheets, PanelFolders &folders)
     : m_sheets(sheets)
+    , m_folders(folders)
 {}
 
 void WindowFilePanels::chooseFileToSave(const FileToSave &file, FileChosen chosen)
 {
+    askToSave(Panel::SaveData, file, chosen);
+}
+
+void WindowFilePanels::askToSave(Panel kindOfPanel, const FileToSave &file,
+                                 const FileChosen &chosen)
+{
     m_sheets.presentDialog(
-        [this, file](QWidget *window) {
+        [this, kindOfPanel, file](QWidget *window) {
             return makeSavePanel(window, file,
-                                 file.folder.isEmpty() ? folderFor(*window) : file.folder);
+                                 file.folder.isEmpty() ? folderFor(kindOfPanel, *window)
+                                                       : file.folder);
         },
-        [this, file, chosen = std::move(chosen)](const QDialog &dialog, int result) {
+        [this, kindOfPanel, file, chosen](const QDialog &dialog, int result) {
             const QString path = chosenPath(dialog, result);
             if (path.isEmpty())
                 return;
-            remember(path);
+            remember(kindOfPanel, path);
             const auto &panel = static_cast<const QFileDialog &>(dialog);
             const std::size_t kind =
                 kindOf(file, path, panel.nameFilters().indexOf(panel.selectedNameFilter()));
@@ -145,7 +155,7 @@ void WindowFilePanels::chooseFileToSave(const FileToSave &file, FileChosen chose
             FileToSave next = file;
             next.kind = kind;
             next.folder.clear();
-            save(next, whole, chosen);
+            save(kindOfPanel, next, whole, chosen);
         });
 }
 
@@ -154,8 +164,9 @@ void WindowFilePanels::chooseDocumentToSave(const QString &proposed,
 {
     const QFileInfo file(proposed);
     if (file.isAbsolute() && file.absoluteDir().exists())
-        remember(proposed);
-    chooseFileToSave(
+        m_folder = file.absolutePath();
+    askToSave(
+        Panel::SaveDocument,
         {texts::localized("platform.files.saveDocument"),
          file.fileName(),
          {{texts::localized("platform.files.documents"), QStringLiteral(".crvgrab")}},
@@ -164,21 +175,23 @@ void WindowFilePanels::chooseDocumentToSave(const QString &proposed,
         [chosen = std::move(chosen)](const QString &path, std::size_t /*kind*/) { chosen(path); });
 }
 
-void WindowFilePanels::save(const FileToSave &file, const QString &path, const FileChosen &chosen)
+void WindowFilePanels::save(Panel panel, const FileToSave &file, const QString &path,
+                            const FileChosen &chosen)
 {
     if (!QFileInfo::exists(path)) {
         chosen(path, file.kind);
         return;
     }
-    m_sheets.present(overwriteQuestion(path), [this, file, path, chosen](SheetAnswer answer) {
-        if (answer == SheetAnswer::Default) {
-            chosen(path, file.kind);
-            return;
-        }
-        FileToSave again = file;
-        again.proposedName = QFileInfo(path).fileName();
-        chooseFileToSave(again, chosen);
-    });
+    m_sheets.present(overwriteQuestion(path),
+                     [this, panel, file, path, chosen](SheetAnswer answer) {
+                         if (answer == SheetAnswer::Default) {
+                             chosen(path, file.kind);
+                             return;
+                         }
+                         FileToSave again = file;
+                         again.proposedName = QFileInfo(path).fileName();
+                         askToSave(panel, again, chosen);
+                     });
 }
 
 void WindowFilePanels::chooseFilesToOpen(const QStringList &suffixes,
@@ -187,7 +200,7 @@ void WindowFilePanels::chooseFilesToOpen(const QStringList &suffixes,
     const QStringList all = QStringList{QStringLiteral("crvgrab")} + suffixes;
     m_sheets.presentDialog(
         [this, all](QWidget *window) {
-            QFileDialog *const panel = makeOpenPanel(window, folderFor(*window));
+            QFileDialog *const panel = makeOpenPanel(window, folderFor(Panel::OpenFiles, *window));
             panel->setWindowTitle(texts::localized("platform.files.openFiles"));
             panel->setFileMode(QFileDialog::ExistingFiles);
             panel->setNameFilters({filter("platform.files.documentsAndPictures", patternsOf(all)),
@@ -199,7 +212,7 @@ void WindowFilePanels::chooseFilesToOpen(const QStringList &suffixes,
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())
                 return;
-            remember(path);
+            remember(Panel::OpenFiles, path);
             chosen(static_cast<const QFileDialog &>(panel).selectedFiles());
         });
 }
@@ -209,7 +222,8 @@ void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
 {
     m_sheets.presentDialog(
         [this, suffixes](QWidget *window) {
-            QFileDialog *const panel = makeOpenPanel(window, folderFor(*window));
+            QFileDialog *const panel =
+                makeOpenPanel(window, folderFor(Panel::OpenPicture, *window));
             panel->setNameFilters({filter("platform.files.pictures", patternsOf(suffixes)),
                                    filter("platform.files.all", QStringLiteral("*"))});
             return panel;
@@ -218,21 +232,27 @@ void WindowFilePanels::choosePictureToOpen(const QStringList &suffixes,
             const QString path = chosenPath(panel, result);
             if (path.isEmpty())
                 return;
-            remember(path);
+            remember(Panel::OpenPicture, path);
             chosen(path);
         });
 }
 
 // What belongs to a file is looked for beside it, until the user goes elsewhere.
-QString WindowFilePanels::folderFor(const QWidget &window) const
+QString WindowFilePanels::folderFor(Panel panel, const QWidget &window) const
 {
     if (!m_folder.isEmpty())
         return m_folder;
     const QFileInfo file(window.windowFilePath());
     if (file.isAbsolute() && file.absoluteDir().exists())
         return file.absolutePath();
+    if (const QString last = m_folders.folderOf(panel); !last.isEmpty())
+        return last;
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 // A name typed with its folder leaves the panel in another one.
-void WindowFilePanels::remember(const QString &path) { m_folder = QFileInfo(path).absolutePath(); }
+void WindowFilePanels::remember(Panel panel, const QString &path)
+{
+    m_folder = QFileInfo(path).absolutePath();
+    m_folders.setFolderOf(panel, m_folder);
+}

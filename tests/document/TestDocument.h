@@ -5,7 +5,9 @@
 #include "document/ExportChoices.h"
 #include "document/MyDocument.h"
 #include "document/RecentFiles.h"
+#include "document/RecentThumbnails.h"
 #include "document/RecoveryStore.h"
+#include "document/SessionMemory.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureScrollArea.h"
 #include "platform/HelpViewer.h"
@@ -18,6 +20,7 @@
 #include "support/FakeFilePanels.h"
 #include "support/FakePasswordSheets.h"
 #include "support/FakePasteboard.h"
+#include "support/FakeTableDrag.h"
 #include "support/RecordingSheets.h"
 #include "ui_MyDocument.h"
 
@@ -48,7 +51,9 @@ public:
     TestServices()
         : m_recovery(recoveryFolder())
         , m_recentFiles(m_folder.filePath(QStringLiteral("state.json")))
+        , m_recentThumbnails(m_folder.filePath(QStringLiteral("thumbnails")))
         , m_exportChoices(m_folder.filePath(QStringLiteral("export.json")))
+        , m_sessionMemory(m_folder.filePath(QStringLiteral("session.json")))
         , m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
         , m_prefs(m_defaults)
     {
@@ -61,6 +66,7 @@ public:
     CurvegrabPrefs &prefs() override { return m_prefs; }
     Clipboard &clipboard() override { return fakeClipboard; }
     Pasteboard &pasteboard() override { return fakePasteboard; }
+    TableDrag &tableDrag() override { return fakeTableDrag; }
     NotificationCentre &notificationCentre() override { return notifications; }
     HelpViewer &helpViewer() override { return help; }
     DocumentMenus::SharedItems sharedItems() override
@@ -90,8 +96,10 @@ public:
     QString examplesFolder() const override { return examples; }
     [[nodiscard]] std::vector<MyDocument *> openDocuments() const override { return {}; }
     RecentFiles &recentFiles() override { return m_recentFiles; }
+    RecentThumbnails &recentThumbnails() override { return m_recentThumbnails; }
     ExportChoices &exportChoices() override { return m_exportChoices; }
     PlotTools &plotTools() override { return plots; }
+    SessionMemory &sessionMemory() override { return m_sessionMemory; }
     RecoveryStore &recoveryStore() override { return m_recovery; }
     [[nodiscard]] QString recoveryFolder() const
     {
@@ -109,6 +117,7 @@ public:
     RecordingHelp help;
     FakeClipboard fakeClipboard;
     FakePasteboard fakePasteboard;
+    FakeTableDrag fakeTableDrag;
     RecordingSheets *sheets = nullptr;
     FakeFilePanels *panels = nullptr;
     FakePasswordSheets *passwords = nullptr;
@@ -126,7 +135,9 @@ private:
     QTemporaryDir m_folder;
     RecoveryStore m_recovery;
     RecentFiles m_recentFiles;
+    RecentThumbnails m_recentThumbnails;
     ExportChoices m_exportChoices;
+    SessionMemory m_sessionMemory;
     UserDefaults m_defaults;
     CurvegrabPrefs m_prefs;
 

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -16,6 +17,16 @@
 #include <QWidget>
 
 namespace {
+
+class KeptFolders final : public PanelFolders
+{
+public:
+    QString folderOf(Panel panel) const override { return m_folders.value(panel); }
+    void setFolderOf(Panel panel, const QString &folder) override { m_folders[panel] = folder; }
+
+private:
+    QMap<Panel, QString> m_folders;
+};
 
 class WindowFilePanelsTest : public testing::Test
 {
@@ -107,7 +118,8 @@ protected:
     QTemporaryDir m_folder;
     QWidget m_window;
     WindowSheets m_sheets{&m_window};
-    WindowFilePanels m_panels{m_sheets};
+    KeptFolders m_folders;
+    WindowFilePanels m_panels{m_sheets, m_folders};
     QStringList m_chosen;
     std::size_t m_kind = 99;
 };
@@ -250,6 +262,29 @@ TEST_F(WindowFilePanelsTest, aFolderThatIsGoneIsNotOffered)
     askToSave();
     ASSERT_TRUE(shown<QFileDialog>());
     EXPECT_TRUE(shown<QFileDialog>()->directory().exists());
+}
+
+TEST_F(WindowFilePanelsTest, theFirstPanelOfAWindowBeginsWhereItsKindWasLeft)
+{
+    const QTemporaryDir elsewhere;
+    m_folders.setFolderOf(PanelFolders::Panel::SaveData, m_folder.path());
+    m_folders.setFolderOf(PanelFolders::Panel::OpenPicture, elsewhere.path());
+    askToSave();
+    ASSERT_TRUE(shown<QFileDialog>());
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(m_folder.path()));
+    shown<QFileDialog>()->reject();
+    m_panels.choosePictureToOpen({QStringLiteral("png")}, [](const QString &) {});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shown<QFileDialog>() != nullptr; }));
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(elsewhere.path()));
+}
+
+TEST_F(WindowFilePanelsTest, theFolderOfAFileIsKeptForItsKindOfPanel)
+{
+    create(QStringLiteral("chart.png"));
+    m_panels.chooseFilesToOpen({QStringLiteral("png")}, [](const QStringList &) {});
+    confirm(QStringLiteral("chart.png"));
+    EXPECT_EQ(m_folders.folderOf(PanelFolders::Panel::OpenFiles), m_folder.path());
+    EXPECT_EQ(m_folders.folderOf(PanelFolders::Panel::SaveDocument), QString());
 }
 
 TEST_F(WindowFilePanelsTest, theOpenPanelOffersPicturesAndEverything)
