@@ -88,7 +88,8 @@ void ChartPlotView::showFigure(const PlotFigure &figure)
 
 void ChartPlotView::makeChart()
 {
-    QChart *const former = m_chart;
+    // The view gives what it showed back, its own first chart too.
+    const std::unique_ptr<QChart> former(m_chartView->chart());
     m_chart = m_figure.isPolar ? new QPolarChart() : new QChart();
     m_chart->setAnimationOptions(QChart::NoAnimation);
     m_chart->setBackgroundRoundness(0);
@@ -98,7 +99,6 @@ void ChartPlotView::makeChart()
     m_chart->legend()->setMarkerShape(QLegend::MarkerShapeFromSeries);
     m_chart->legend()->setLabelColor(Qt::black);
     m_chartView->setChart(m_chart);
-    const std::unique_ptr<QChart> replaced(former);
     m_data = new PlotDataItem(*m_chart);
     connect(m_chart, &QChart::plotAreaChanged, this, [data = m_data] { data->placeChanged(); });
 }
