@@ -41,3 +41,7 @@ target_compile_definitions(curvegrab_qt_options INTERFACE
 # Tests are long and run for moments: optimising them costs more than it gives.
 add_library(curvegrab_test_options INTERFACE)
 target_compile_options(curvegrab_test_options INTERFACE -O0)
+# Where nothing is kept from one build to the next, they are made to be run, not stepped through.
+if(CURVEGRAB_PRECOMPILED_TESTS)
+    target_compile_options(curvegrab_test_options INTERFACE -g1)
+endif()
