@@ -29,6 +29,7 @@ const char *nameKeyOf(ExchangeFormat format)
 std::vector<FileKind> ExportFormats::offered() const
 {
     std::vector<FileKind> kinds;
+    kinds.reserve(exchangeformat::all.size());
     for (const ExchangeFormat format : exchangeformat::all)
         kinds.push_back({texts::localized(nameKeyOf(format)), exchangeformat::suffixOf(format)});
     return kinds;

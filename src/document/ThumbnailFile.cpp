@@ -105,7 +105,7 @@ QImage of(const QString &path, const QString &folder, const std::stop_token &sto
     const QString name = nameFor(path, *stamp);
     if (QImage known; known.load(place.filePath(name), "png"))
         return known;
-    const QImage made = documenttypes::isDocument(path) ? ofDocument(path, stop) : ofPicture(path);
+    QImage made = documenttypes::isDocument(path) ? ofDocument(path, stop) : ofPicture(path);
     if (!made.isNull() && !stop.stop_requested())
         remember(made, place, name);
     return made;
