@@ -245,7 +245,7 @@ QString WindowFilePanels::folderFor(Panel panel, const QWidget &window) const
     const QFileInfo file(window.windowFilePath());
     if (file.isAbsolute() && file.absoluteDir().exists())
         return file.absolutePath();
-    if (const QString last = m_folders.folderOf(panel); !last.isEmpty())
+    if (QString last = m_folders.folderOf(panel); !last.isEmpty())
         return last;
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
