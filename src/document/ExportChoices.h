@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exchange/ExchangeFormat.h"
-#include "platform/UserDefaults.h"
+#include "platform/StateFile.h"
 
 #include <QString>
 
@@ -25,7 +25,5 @@ public:
     void setDigits(std::optional<int> digits);
 
 private:
-    void keep(const QJsonValue &value, const QString &key);
-
-    UserDefaults m_state;
+    StateFile m_state;
 };

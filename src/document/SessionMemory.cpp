@@ -1,6 +1,5 @@
 #include "document/SessionMemory.h"
 
-#include <QDir>
 #include <QJsonArray>
 
 namespace {
@@ -30,27 +29,19 @@ SessionMemory::SessionMemory(const QString &path)
 
 std::optional<QSize> SessionMemory::windowSize() const
 {
-    const QJsonArray stored = m_state.objectForKey(windowSizeKey).value_or(QJsonValue()).toArray();
+    const QJsonArray stored = m_state.value(windowSizeKey).toArray();
     const QSize size(stored.at(0).toInt(), stored.at(1).toInt());
     return stored.size() == 2 && !size.isEmpty() ? std::optional(size) : std::nullopt;
 }
 
 void SessionMemory::setWindowSize(QSize size)
 {
-    keep(QJsonArray{size.width(), size.height()}, windowSizeKey);
+    m_state.remember(QJsonArray{size.width(), size.height()}, windowSizeKey);
 }
 
-QString SessionMemory::folderOf(Panel panel) const
-{
-    const QString path = m_state.objectForKey(keyOf(panel)).value_or(QJsonValue()).toString();
-    return QDir::isAbsolutePath(path) && QDir(path).exists() ? path : QString();
-}
+QString SessionMemory::folderOf(Panel panel) const { return m_state.folder(keyOf(panel)); }
 
-void SessionMemory::setFolderOf(Panel panel, const QString &folder) { keep(folder, keyOf(panel)); }
-
-// What cannot be kept is good for this session all the same.
-void SessionMemory::keep(const QJsonValue &value, const QString &key)
+void SessionMemory::setFolderOf(Panel panel, const QString &folder)
 {
-    m_state.setObject(value, key);
-    static_cast<void>(m_state.synchronize());
+    m_state.remember(folder, keyOf(panel));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDefaults.h"
+#include "platform/StateFile.h"
 #include "platform/WindowFilePanels.h"
 
 #include <QSize>
@@ -22,7 +22,5 @@ public:
     void setFolderOf(Panel panel, const QString &folder) override;
 
 private:
-    void keep(const QJsonValue &value, const QString &key);
-
-    UserDefaults m_state;
+    StateFile m_state;
 };

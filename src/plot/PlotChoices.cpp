@@ -1,7 +1,5 @@
 #include "plot/PlotChoices.h"
 
-#include <QDir>
-
 namespace {
 const QString formatKey = QStringLiteral("Plot Format");
 const QString folderKey = QStringLiteral("Plot Folder");
@@ -13,23 +11,17 @@ PlotChoices::PlotChoices(const QString &path)
 
 plotpicture::Format PlotChoices::format() const
 {
-    const QString suffix = m_state.objectForKey(formatKey).value_or(QJsonValue()).toString();
+    const QString suffix = m_state.value(formatKey).toString();
     for (const plotpicture::Format format : plotpicture::formats)
         if (plotpicture::suffixOf(format) == suffix)
             return format;
     return plotpicture::formats.front();
 }
 
-QString PlotChoices::folder() const
-{
-    const QString path = m_state.objectForKey(folderKey).value_or(QJsonValue()).toString();
-    return QDir::isAbsolutePath(path) && QDir(path).exists() ? path : QString();
-}
+QString PlotChoices::folder() const { return m_state.folder(folderKey); }
 
-// A choice that cannot be kept is good for this session all the same.
 void PlotChoices::remember(plotpicture::Format format, const QString &folder)
 {
-    m_state.setObject(plotpicture::suffixOf(format), formatKey);
-    m_state.setObject(folder, folderKey);
-    static_cast<void>(m_state.synchronize());
+    m_state.remember(plotpicture::suffixOf(format), formatKey);
+    m_state.remember(folder, folderKey);
 }

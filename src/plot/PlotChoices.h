@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDefaults.h"
+#include "platform/StateFile.h"
 #include "plot/PlotPicture.h"
 
 #include <QString>
@@ -19,5 +19,5 @@ public:
     void remember(plotpicture::Format format, const QString &folder);
 
 private:
-    UserDefaults m_state;
+    StateFile m_state;
 };
