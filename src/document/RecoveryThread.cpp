@@ -122,13 +122,16 @@ std::optional<QString> RecoveryThread::writePicture(const RecoveryWriter::Kept &
 }
 
 // Where the encoding is not there yet it is long, and a crash does not wait for it. The rest of
-// the document does not wait for the picture.
+// the document does not wait for its first picture; but one that has a picture on the disk keeps it
+// until the next one is there.
 std::optional<QString> RecoveryThread::keepPicture(const RecoveryWriter::Kept &kept,
                                                    const QString &name)
 {
     if (kept.encodedPicture != nullptr)
         return RecoveryStore::keepPicture(kept.key, *kept.encodedPicture, name);
-    if (auto reason = RecoveryStore::keep(kept.key, kept.document, QString()))
-        return reason;
+    if (m_onDisk.pictureName.isEmpty()) {
+        if (auto reason = RecoveryStore::keep(kept.key, kept.document, QString()))
+            return reason;
+    }
     return RecoveryStore::keepPicture(kept.key, *kept.picture, name);
 }

@@ -38,8 +38,8 @@ private:
     void run();
     [[nodiscard]] std::optional<QString> write(const RecoveryWriter::Kept &kept);
     [[nodiscard]] std::optional<QString> writePicture(const RecoveryWriter::Kept &kept);
-    [[nodiscard]] static std::optional<QString> keepPicture(const RecoveryWriter::Kept &kept,
-                                                            const QString &name);
+    [[nodiscard]] std::optional<QString> keepPicture(const RecoveryWriter::Kept &kept,
+                                                     const QString &name);
     void forget(const QString &key);
 
     std::mutex m_mutex; ///< of the members up to m_hasEnded

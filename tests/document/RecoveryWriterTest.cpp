@@ -1,5 +1,6 @@
 #include "document/RecoveryWriter.h"
 
+#include "document/DocumentArchive.h"
 #include "document/DocumentKeys.h"
 #include "document/SampleRoots.h"
 #include "imageview/ArchivedPicture.h"
@@ -32,6 +33,18 @@ protected:
         writer->keep({key, {root, {}, {}, {}}, picture->picture(), picture, {}});
     }
 
+    /// Another picture, which nobody has encoded.
+    void keepAnotherPicture() const
+    {
+        QImage pixels(40, 30, QImage::Format_RGB32);
+        pixels.fill(Qt::red);
+        writer->keep({key,
+                      {sampleroots::root(sampleroots::Kind::Polar), {}, {}, {}},
+                      Picture::fromImageRep(pixels),
+                      nullptr,
+                      {}});
+    }
+
     [[nodiscard]] QStringList files() const
     {
         return QFileInfo(key).dir().entryList({"*.unsaved", "*.picture"}, QDir::Files);
@@ -56,6 +69,32 @@ TEST_F(RecoveryWriterTest, keepsAndTells)
     ASSERT_TRUE(wrote.wait());
     EXPECT_EQ(wrote.first().first().value<std::optional<QString>>(), std::nullopt);
     EXPECT_EQ(files().size(), 2);
+}
+
+TEST_F(RecoveryWriterTest, theKeptDocumentHasItsPictureUntilTheNextOneIsWritten)
+{
+    QSignalSpy wrote(writer.get(), &RecoveryWriter::wrote);
+    keep();
+    ASSERT_TRUE(wrote.wait());
+    // A folder stands where the next picture would come.
+    const QFileInfo document(key);
+    ASSERT_TRUE(document.dir().mkdir(document.completeBaseName() + "-2.picture"));
+    keepAnotherPicture();
+    ASSERT_TRUE(wrote.wait());
+    ASSERT_NE(wrote.last().first().value<std::optional<QString>>(), std::nullopt);
+    const std::optional<RecoveryStore::Document> kept = RecoveryStore::read(key);
+    ASSERT_TRUE(kept);
+    EXPECT_NE(documentarchive::pictureIn(kept->root), nullptr);
+}
+
+TEST_F(RecoveryWriterTest, aFirstPictureThatCannotBeWrittenDoesNotHoldUpTheRest)
+{
+    QSignalSpy wrote(writer.get(), &RecoveryWriter::wrote);
+    const QFileInfo document(key);
+    ASSERT_TRUE(document.dir().mkdir(document.completeBaseName() + "-1.picture"));
+    keepAnotherPicture();
+    ASSERT_TRUE(wrote.wait());
+    EXPECT_TRUE(RecoveryStore::read(key));
 }
 
 TEST_F(RecoveryWriterTest, whatIsForgottenWhileItIsWrittenIsGone)
