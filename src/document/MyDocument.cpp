@@ -34,8 +34,6 @@
 
 namespace {
 
-// The states of the drawer's button; the sense is inverted on purpose.
-
 FloatSize sizeOf(QSize size)
 {
     return {static_cast<float>(size.width()), static_cast<float>(size.height())};

@@ -189,6 +189,7 @@ public:
     /// `zoom:` for a new picture: gives the window its standard frame.
     void applyStandardFrame();
 
+    // The states of the drawer's button; the sense is inverted on purpose.
     static constexpr int drawerIsOpen = 0;
     static constexpr int drawerIsClosed = 1;
     /// drawerIsOpen or drawerIsClosed.

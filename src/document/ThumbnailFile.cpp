@@ -65,8 +65,7 @@ QImage ofDocument(const QString &path, const std::stop_token &stop)
         document.reading.root.dictionaryForKey(documentkeys::graphImageViewData);
     if (view == nullptr || stop.stop_requested())
         return {};
-    const auto archived =
-        std::dynamic_pointer_cast<const ArchivedPicture>(view->objectForKey("Original Image"));
+    const auto archived = documentarchive::pictureIn(document.reading.root);
     const auto picture = archived == nullptr ? std::nullopt : archived->picture();
     if (!picture)
         return {};

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLabel>
@@ -221,6 +222,14 @@ TEST_F(InfoPanel, eachSectionGoesBackToNothingByItself)
     EXPECT_EQ(text("dataInfo0"), "3");
     m_controller.updateDataInfoWith(nullptr);
     EXPECT_EQ(text("dataInfo0"), "-----");
+}
+
+TEST_F(InfoPanel, isNotMadeBeforeItIsNeeded)
+{
+    m_controller.updateAllInfoWith(&m_document);
+    m_controller.setIsVisible(false);
+    for (const QWidget *window : QApplication::topLevelWidgets())
+        EXPECT_EQ(qobject_cast<const InfoPanelWindow *>(window), nullptr);
 }
 
 TEST_F(InfoPanel, shownForTheFirstTimeItTellsWhatItWasHandedBefore)
