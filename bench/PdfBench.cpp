@@ -1,5 +1,6 @@
 #include "imageview/PdfFiles.h"
 #include "imageview/ZKPdfDocument.h"
+#include "platform/Modules.h"
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -72,6 +73,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    modules::setFolder(QStringLiteral(CURVEGRAB_MODULE_FOLDER));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -20,6 +20,22 @@ function(curvegrab_add_qt_folder name)
     endif()
 endfunction()
 
+# curvegrab_add_module(<folder> <name> SOURCES <files…> LINK <targets…>)
+# A part of a folder that is a library of its own, curvegrab<name>. The program loads it when it is
+# needed, and with it what it is linked with (src/platform/Modules.h); whoever links the folder gets
+# it built. It has its sources to itself: nothing of the folder is linked into it.
+function(curvegrab_add_module folder name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    set(module ${name}module)
+    add_library(${module} MODULE ${ARG_SOURCES})
+    set_target_properties(${module} PROPERTIES
+        AUTOMOC ON PREFIX "" OUTPUT_NAME curvegrab${name}
+        LIBRARY_OUTPUT_DIRECTORY ${CURVEGRAB_MODULE_FOLDER})
+    target_link_libraries(${module} PRIVATE curvegrab_qt_options Qt6::Core ${ARG_LINK})
+    add_dependencies(${folder} ${module})
+    install(TARGETS ${module} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/curvegrab)
+endfunction()
+
 # curvegrab_add_test(<name> SOURCES <files…> LINK <targets…> [GUI] [X11])
 # GUI: the test has a QApplication on the offscreen platform.
 # X11: it runs once more in a real window system (Xvfb) under the label x11.

@@ -4,6 +4,7 @@
 #include "capture/SeriesText.h"
 #include "document/DocumentExchange.h"
 #include "exchange/ExchangeFile.h"
+#include "exchange/Spreadsheet.h"
 #include "platform/DurableFile.h"
 #include "platform/Texts.h"
 
@@ -83,7 +84,7 @@ std::optional<QByteArray> contentOf(const std::vector<Chosen> &documents,
     auto content =
         exchangefile::content(commandLine.exportFormat(), facts, {withTitles, commandLine.digits});
     if (!content)
-        console.complainAbout(commandLine.output, texts::localized("document.export.noWorkbook"));
+        console.complainAbout(commandLine.output, spreadsheet::reasonOfNothing());
     return content;
 }
 

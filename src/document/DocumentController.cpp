@@ -3,6 +3,7 @@
 #include "document/ApplicationPanels.h"
 #include "document/DocumentWindow.h"
 #include "document/MyDocument.h"
+#include "platform/Modules.h"
 #include "platform/SystemClipboard.h"
 #include "platform/SystemDesktop.h"
 #include "platform/SystemPasteboard.h"
@@ -31,7 +32,7 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, const QString &sta
     , m_recentFiles(QDir(stateFolder).filePath(QStringLiteral("state.json")))
     , m_recentThumbnails(QDir(stateFolder).filePath(QStringLiteral("thumbnails")))
     , m_exportChoices(QDir(stateFolder).filePath(QStringLiteral("export.json")))
-    , m_plotTools{PlotModule(PlotModule::folderFor(QCoreApplication::applicationDirPath())),
+    , m_plotTools{PlotModule(modules::folder()),
                   PlotChoices(QDir(stateFolder).filePath(QStringLiteral("plot.json")))}
     , m_sessionMemory(QDir(stateFolder).filePath(QStringLiteral("session.json")))
     , m_recovery(QDir(stateFolder).filePath(QStringLiteral("recovery")))

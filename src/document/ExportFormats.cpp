@@ -3,6 +3,7 @@
 #include "document/DocumentExchange.h"
 #include "document/ExportChoices.h"
 #include "exchange/ExchangeFile.h"
+#include "exchange/Spreadsheet.h"
 #include "platform/Texts.h"
 
 #include <algorithm>
@@ -57,7 +58,4 @@ SeriesFormats::Maker ExportFormats::maker(const IndexSet &series, bool withTitle
     };
 }
 
-QString ExportFormats::reasonOfNothing() const
-{
-    return texts::localized("document.export.noWorkbook");
-}
+QString ExportFormats::reasonOfNothing() const { return spreadsheet::reasonOfNothing(); }

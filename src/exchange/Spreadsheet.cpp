@@ -2,115 +2,41 @@
 
 #include "exchange/ExchangeNumber.h"
 #include "exchange/ExchangeTitles.h"
+#include "exchange/SpreadsheetWriter.h"
+#include "platform/Modules.h"
+#include "platform/Texts.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QString>
-#include <QTemporaryDir>
-
-#include <clocale>
-#include <cmath>
-#include <xlsxwriter.h>
 
 namespace {
 
-constexpr double columnWidth = 16; // characters
-constexpr std::size_t rowsOfSheet = 1048576;
-
-/// While it lives, C functions of this thread write numbers with a point: the library's among them.
-class PointInNumbers
+SpreadsheetWriter *writer()
 {
-public:
-    PointInNumbers()
-        : m_locale(::newlocale(LC_NUMERIC_MASK, "C", locale_t{}))
-        , m_before(::uselocale(m_locale))
-    {}
-    ~PointInNumbers()
-    {
-        ::uselocale(m_before);
-        ::freelocale(m_locale);
-    }
-    PointInNumbers(const PointInNumbers &) = delete;
-    PointInNumbers &operator=(const PointInNumbers &) = delete;
-
-private:
-    locale_t m_locale;
-    locale_t m_before;
-};
-
-bool writeNumber(lxw_worksheet &sheet, lxw_row_t row, lxw_col_t column, double value,
-                 std::optional<int> digits)
-{
-    // A cell cannot hold what is no number.
-    if (!std::isfinite(value))
-        return worksheet_write_string(&sheet, row, column, exchangenumber::text(value).c_str(),
-                                      nullptr) == LXW_NO_ERROR;
-    return worksheet_write_number(&sheet, row, column, exchangenumber::rounded(value, digits),
-                                  nullptr) == LXW_NO_ERROR;
+    return modules::find<SpreadsheetWriter>(modules::folder(),
+                                            QStringLiteral("curvegrabspreadsheet"));
 }
 
-bool writeTitles(lxw_worksheet &sheet, const ExchangeFacts &facts, lxw_format &format)
+SpreadsheetSheet sheetOf(const ExchangeFacts &facts, const ExchangeStyle &style)
 {
-    lxw_col_t column = 0;
-    bool isWritten = true;
-    for (const ExchangeSeries &series : facts.series)
-        for (const std::string &title : exchangetitles::columnsOf(series))
-            isWritten = worksheet_write_string(&sheet, 0, column++, title.c_str(), &format) ==
-                            LXW_NO_ERROR &&
-                        isWritten;
-    worksheet_freeze_panes(&sheet, 1, 0);
-    return isWritten;
-}
-
-bool writeSeries(lxw_worksheet &sheet, const ExchangeSeries &series, lxw_row_t row,
-                 lxw_col_t column, std::optional<int> digits)
-{
-    for (const ZKVector &point : series.points) {
-        if (!writeNumber(sheet, row, column, point.X(), digits) ||
-            !writeNumber(sheet, row, static_cast<lxw_col_t>(column + 1), point.Y(), digits))
-            return false;
-        ++row;
-    }
-    return true;
-}
-
-bool fill(lxw_worksheet &sheet, const ExchangeFacts &facts, const ExchangeStyle &style,
-          lxw_format &titleFormat)
-{
-    bool isWritten = !style.withTitles || writeTitles(sheet, facts, titleFormat);
-    const lxw_row_t firstRow = style.withTitles ? 1 : 0;
-    lxw_col_t column = 0;
-    if (firstRow + exchangetitles::rowsOf(facts.series) > rowsOfSheet)
-        return false;
+    SpreadsheetSheet sheet;
     for (const ExchangeSeries &series : facts.series) {
-        isWritten = writeSeries(sheet, series, firstRow, column, style.digits) && isWritten;
-        column = static_cast<lxw_col_t>(column + 2);
+        if (style.withTitles)
+            for (const std::string &title : exchangetitles::columnsOf(series))
+                sheet.titles.push_back(title);
+        std::vector<double> x;
+        std::vector<double> y;
+        x.reserve(series.points.size());
+        y.reserve(series.points.size());
+        for (const ZKVector &point : series.points) {
+            x.push_back(exchangenumber::rounded(point.X(), style.digits));
+            y.push_back(exchangenumber::rounded(point.Y(), style.digits));
+        }
+        sheet.columns.push_back(std::move(x));
+        sheet.columns.push_back(std::move(y));
     }
-    if (column > 0)
-        worksheet_set_column(&sheet, 0, static_cast<lxw_col_t>(column - 1), columnWidth, nullptr);
-    return isWritten;
-}
-
-/// Puts the workbook together in the file at `path`; whether all of it found its place.
-bool write(const QString &path, const QString &folder, const std::vector<ExchangeFacts> &documents,
-           const ExchangeStyle &style)
-{
-    QByteArray temporaryFolder = QFile::encodeName(folder);
-    lxw_workbook_options options{LXW_FALSE, temporaryFolder.data(), LXW_FALSE};
-    lxw_workbook *book = workbook_new_opt(QFile::encodeName(path).constData(), &options);
-    if (book == nullptr)
-        return false;
-    lxw_format *titleFormat = workbook_add_format(book);
-    format_set_bold(titleFormat);
-    const std::vector<std::string> names = spreadsheet::sheetNames(documents);
-    bool isWritten = true;
-    for (std::size_t i = 0; i < documents.size(); ++i) {
-        lxw_worksheet *sheet = workbook_add_worksheet(book, names[i].c_str());
-        isWritten =
-            sheet != nullptr && fill(*sheet, documents[i], style, *titleFormat) && isWritten;
-    }
-    return workbook_close(book) == LXW_NO_ERROR && isWritten;
+    return sheet;
 }
 
 /// `name` as far as a sheet may be called so.
@@ -143,15 +69,24 @@ namespace spreadsheet {
 std::optional<QByteArray> workbook(const std::vector<ExchangeFacts> &documents,
                                    const ExchangeStyle &style)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("book.xlsx"));
-    const PointInNumbers point;
-    if (!folder.isValid() || !write(path, folder.path(), documents, style))
+    const SpreadsheetWriter *const module = writer();
+    if (module == nullptr)
         return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return file.readAll();
+    std::vector<SpreadsheetSheet> sheets;
+    std::vector<std::string> names = sheetNames(documents);
+    sheets.reserve(documents.size());
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        sheets.push_back(sheetOf(documents[i], style));
+        sheets.back().name = std::move(names[i]);
+    }
+    return module->workbook(sheets);
+}
+
+QString reasonOfNothing()
+{
+    if (writer() == nullptr)
+        return texts::localized("document.export.missing").arg(modules::folder());
+    return texts::localized("document.export.noWorkbook");
 }
 
 std::vector<std::string> sheetNames(const std::vector<ExchangeFacts> &documents)

@@ -3,6 +3,7 @@
 #include "exchange/ExchangeFacts.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <optional>
 #include <string>
@@ -13,9 +14,13 @@ namespace spreadsheet {
 
 /// One sheet per document; each series in two columns of number cells, the titles in a row that
 /// stays in sight. Cells hold 16 significant digits at most. Nothing if a series is longer than a
-/// sheet, or if there is no room for the temporary file in which the workbook is put together.
+/// sheet, if there is no room for the temporary file in which the workbook is put together, or if
+/// the module that writes workbooks is missing.
 [[nodiscard]] std::optional<QByteArray> workbook(const std::vector<ExchangeFacts> &documents,
                                                  const ExchangeStyle &style);
+
+/// Why there is no workbook, in the user's words.
+[[nodiscard]] QString reasonOfNothing();
 
 /// The names of the sheets: those of the documents without their extension, as far as a sheet may
 /// be called so, each once whatever the case of its letters.

@@ -144,6 +144,8 @@ const char *keyOf(PictureProblem problem)
         return "imageview.error.needs-password";
     case PictureProblem::UnknownProtection:
         return "imageview.error.unknown-protection";
+    case PictureProblem::PdfModuleMissing:
+        return "imageview.error.pdf-module-missing";
     case PictureProblem::Cancelled:
         break;
     }

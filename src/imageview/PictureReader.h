@@ -26,6 +26,7 @@ enum class PictureProblem {
     PageTooLarge,
     NeedsPassword, ///< the PDF file is locked, and the password given, if any, is not the right one
     UnknownProtection,
+    PdfModuleMissing, ///< the part of the program that knows PDF files is not installed
     Cancelled,
 };
 

@@ -1,12 +1,11 @@
 #include "imageview/ZKPdfDocument.h"
 
-#include "imageview/PdfPages.h"
+#include "imageview/PdfLibrary.h"
 #include "imageview/PictureFile.h"
 #include "imageview/PictureMemory.h"
 
 #include <QFile>
 #include <QPainter>
-#include <QPdfDocument>
 
 #include <algorithm>
 #include <new>
@@ -35,22 +34,6 @@ std::optional<PictureProblem> problemOfEnds(const QString &path, bool &endsPrope
     return {};
 }
 
-std::optional<PictureProblem> problemOf(QPdfDocument::Error error)
-{
-    switch (error) {
-    case QPdfDocument::Error::None:
-        return {};
-    case QPdfDocument::Error::IncorrectPassword:
-        return PictureProblem::NeedsPassword;
-    case QPdfDocument::Error::UnsupportedSecurityScheme:
-        return PictureProblem::UnknownProtection;
-    case QPdfDocument::Error::FileNotFound:
-        return PictureProblem::Missing;
-    default:
-        return PictureProblem::Damaged;
-    }
-}
-
 QImage onWhite(const QImage &content, QSize paper, QPoint origin)
 {
     QImage image(paper, QImage::Format_RGB32);
@@ -76,16 +59,20 @@ std::unique_ptr<ZKPdfDocument> ZKPdfDocument::zkPdfDocumentWithFile(const QStrin
     document->m_problem = problemOfEnds(path, endsProperly);
     if (document->m_problem)
         return document;
-    PdfPages read = PdfPages::read(path, password);
+    const PdfLibrary *const library = PdfLibrary::find();
+    if (library == nullptr) {
+        document->m_problem = PictureProblem::PdfModuleMissing;
+        return document;
+    }
+    PdfPages read = library->readPages(path, password);
     // What is missing at the end of a cut file might be a curve: it is not passed off as whole.
     if (!read.problem && read.isDamaged && !endsProperly)
         read.problem = PictureProblem::Damaged;
     document->m_problem = read.problem;
     if (document->m_problem)
         return document;
-    auto renderer = std::make_unique<QPdfDocument>();
-    renderer->setPassword(password);
-    document->m_problem = problemOf(renderer->load(path));
+    auto renderer = library->open(path, password);
+    document->m_problem = renderer->problem();
     if (document->m_problem)
         return document;
     const auto count = static_cast<std::size_t>(std::max(0, renderer->pageCount()));
@@ -163,7 +150,7 @@ const PdfPage *ZKPdfDocument::pageWithNumber(int page) const
 // The renderer turns the page for reading by itself, and leaves its paper transparent.
 QImage ZKPdfDocument::painted(int page, const PdfPlacement &placement) const
 {
-    QImage content = m_pdfDocumentRef->render(page - 1, placement.pagePixels);
+    QImage content = m_pdfDocumentRef->painted(page - 1, placement.pagePixels);
     if (content.isNull() ||
         (placement.pagePixels == placement.imagePixels && placement.pageOrigin.isNull()))
         return content;

@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-class QPdfDocument;
+class PdfPainter;
 
 /// A PDF document whose pages are painted as pictures. Pages are numbered from 1. It belongs to
 /// the thread in which it was made, and waits for whatever is painted in another one.
@@ -53,7 +53,7 @@ private:
     /// The page's pixels, whose paper may be transparent.
     [[nodiscard]] QImage painted(int page, const PdfPlacement &placement) const;
 
-    std::unique_ptr<QPdfDocument> m_pdfDocumentRef;
+    std::unique_ptr<PdfPainter> m_pdfDocumentRef;
     std::vector<PdfPage> m_pages;
     std::optional<PictureProblem> m_problem;
 };

@@ -1,6 +1,7 @@
 #include "exchange/Spreadsheet.h"
 
 #include "exchange/SampleFacts.h"
+#include "platform/Modules.h"
 
 #include <QFile>
 #include <QMap>
@@ -187,4 +188,16 @@ TEST(Spreadsheet, sheetsHaveNamesThatSheetsMayHave)
     const std::string longName(40, 'x');
     EXPECT_EQ(namesFor({longName, longName}),
               Names({std::string(31, 'x'), std::string(29, 'x') + " 2"}));
+}
+
+TEST(Spreadsheet, withoutItsModuleSaysWhereThatBelongs)
+{
+    const QTemporaryDir folder;
+    const QString modulesOfProgram = modules::folder();
+    modules::setFolder(folder.path());
+    EXPECT_EQ(spreadsheet::workbook({samplefacts::twoSeries()}, {}), std::nullopt);
+    const QString reason = spreadsheet::reasonOfNothing();
+    modules::setFolder(modulesOfProgram);
+    EXPECT_TRUE(reason.contains(folder.path())) << qPrintable(reason);
+    EXPECT_NE(spreadsheet::reasonOfNothing(), reason);
 }

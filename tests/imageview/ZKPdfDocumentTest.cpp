@@ -1,5 +1,6 @@
 #include "imageview/ZKPdfDocument.h"
 #include "imageview/PdfFiles.h"
+#include "platform/Modules.h"
 
 #include <QTemporaryDir>
 
@@ -325,4 +326,15 @@ TEST_F(ZKPdfDocumentTest, pagesTakeTheNearestBoxAboveThem)
     ASSERT_EQ(document->numberOfPages(), 2);
     EXPECT_EQ(document->getImageOfPage(1)->size(), (FloatSize{70, 30}));
     EXPECT_EQ(document->getImageOfPage(2)->size(), (FloatSize{100, 50}));
+}
+
+TEST_F(ZKPdfDocumentTest, withoutItsModuleTellsSo)
+{
+    const QString modulesOfProgram = modules::folder();
+    modules::setFolder(folder.path());
+    const auto document = opened("letter-25.pdf");
+    modules::setFolder(modulesOfProgram);
+    EXPECT_EQ(document->problem(), PictureProblem::PdfModuleMissing);
+    EXPECT_EQ(document->numberOfPages(), 0);
+    EXPECT_FALSE(document->getImageOfPage(1));
 }

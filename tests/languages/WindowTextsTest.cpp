@@ -15,6 +15,7 @@
 #include "infopanel/InfoPanelWindow.h"
 #include "languages/CatalogueFile.h"
 #include "languages/ShownTexts.h"
+#include "platform/Modules.h"
 #include "platform/TextCatalogues.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
@@ -285,7 +286,11 @@ TEST_P(WindowTexts, ofThePreferencesFit)
 
 TEST_P(WindowTexts, ofThePlotFit)
 {
-    // Without the module, which the tests do not have, the window has the longest text.
+    // Without the module the window has the longest text.
+    const QString modulesOfProgram = modules::folder();
+    modules::setFolder(QStringLiteral("/usr/lib/x86_64-linux-gnu/curvegrab/none"));
+    makeWindow();
+    modules::setFolder(modulesOfProgram);
     command("showResult");
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto plot = std::find_if(windows.begin(), windows.end(), [](const QWidget *widget) {

@@ -1,7 +1,10 @@
 // Installs what was built into a folder of its own and looks at it as a desktop does.
 #include "document/DocumentTypes.h"
 #include "document/ExampleDocuments.h"
-#include "plot/PlotModule.h"
+#include "exchange/SpreadsheetWriter.h"
+#include "imageview/PdfLibrary.h"
+#include "platform/Modules.h"
+#include "plot/PlotView.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -121,7 +124,9 @@ TEST_F(Install, putsEveryFileWhereItBelongsAndNoOther)
 {
     const QString share = QStringLiteral(CURVEGRAB_DATADIR "/");
     QStringList expected{QStringLiteral(CURVEGRAB_BINDIR "/curvegrab"),
+                         QStringLiteral(CURVEGRAB_LIBDIR "/curvegrab/curvegrabpdf.so"),
                          QStringLiteral(CURVEGRAB_LIBDIR "/curvegrab/curvegrabplot.so"),
+                         QStringLiteral(CURVEGRAB_LIBDIR "/curvegrab/curvegrabspreadsheet.so"),
                          QStringLiteral(CURVEGRAB_MANDIR "/man1/curvegrab.1"),
                          share + QStringLiteral("applications/" CURVEGRAB_DESKTOP_ID ".desktop"),
                          share + QStringLiteral("metainfo/" CURVEGRAB_DESKTOP_ID ".metainfo.xml"),
@@ -232,19 +237,36 @@ TEST_F(Install, theInstalledProgramFindsItsExamples)
         EXPECT_TRUE(folder.exists(QLatin1String(example.file))) << example.file;
 }
 
-TEST_F(Install, theInstalledProgramFindsWhatDrawsPlots)
+TEST_F(Install, theInstalledProgramFindsItsModules)
 {
-    PlotModule module(PlotModule::folderFor(QFileInfo(program()).path()));
-    EXPECT_NE(module.maker(), nullptr) << qPrintable(module.folder());
+    const QString folder = modules::folderFor(QFileInfo(program()).path());
+    EXPECT_NE(modules::find<PdfLibrary>(folder, QStringLiteral("curvegrabpdf")), nullptr);
+    EXPECT_NE(modules::find<PlotViewMaker>(folder, QStringLiteral("curvegrabplot")), nullptr);
+    EXPECT_NE(modules::find<SpreadsheetWriter>(folder, QStringLiteral("curvegrabspreadsheet")),
+              nullptr);
 }
 
-// The program starts as quickly as if there were no plots.
-TEST_F(Install, theProgramItselfNeedsNoChartingLibrary)
+TEST_F(Install, theInstalledProgramWritesAWorkbook)
+{
+    const QString example = data(QStringLiteral("curvegrab/examples/damped-oscillation.crvgrab"));
+    const QTemporaryDir folder;
+    const QString book = folder.filePath(QStringLiteral("book.xlsx"));
+    const Result result =
+        run(program(), {QStringLiteral("--export"), book, example}, privateSettings());
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.out);
+    QFile file(book);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("PK"));
+}
+
+// The program starts as quickly as if there were no plots, PDF files and spreadsheets.
+TEST_F(Install, theProgramItselfNeedsNoLibraryOfItsModules)
 {
     const Result needed = run(QStringLiteral("ldd"), {program()});
     EXPECT_EQ(needed.exitCode, 0);
     EXPECT_TRUE(needed.out.contains(QStringLiteral("libQt6Widgets")));
-    for (const char *const library : {"libQt6Charts", "libQt6OpenGL"})
+    for (const char *const library :
+         {"libQt6Charts", "libQt6OpenGL", "libQt6Pdf", "libqpdf", "libxlsxwriter"})
         EXPECT_FALSE(needed.out.contains(QLatin1String(library))) << library;
 }
 

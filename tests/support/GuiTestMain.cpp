@@ -1,3 +1,5 @@
+#include "platform/Modules.h"
+
 #include <QApplication>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -5,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-// The application of every GUI test: English texts loaded as in the program,
-// and a configuration folder of its own so that no test touches the user's.
+// The application of every GUI test: English texts loaded and the program's modules found as in the
+// program, and a configuration folder of its own so that no test touches the user's.
 int main(int argc, char **argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
@@ -14,6 +16,7 @@ int main(int argc, char **argv)
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     QStandardPaths::setTestModeEnabled(false);
     const QApplication application(argc, argv);
+    modules::setFolder(QStringLiteral(CURVEGRAB_MODULE_FOLDER));
     QTranslator texts;
     if (!texts.load(QStringLiteral(":/i18n/curvegrab_en.qm")))
         return 2;

@@ -766,6 +766,11 @@ Version %1. Freie Software unter der GNU General Public License, Version 3 oder 
         <extracomment>Why a file was not written.</extracomment>
         <translation>Die Arbeitsmappe ließ sich nicht anlegen. Ein Blatt fasst 1048576 Zeilen, und der Datenträger braucht etwas Platz für Zwischendateien.</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>Arbeitsmappen lassen sich nicht schreiben, weil ein Teil von Curvegrab X fehlt. Bitte installieren Sie das Programm neu. Der Teil gehört in %1.</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

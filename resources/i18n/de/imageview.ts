@@ -153,6 +153,11 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>„%1“ ist auf eine Weise geschützt, die nicht unterstützt wird. Speichern Sie die Datei ohne Schutz in dem Programm, aus dem sie stammt.</translation>
     </message>
+    <message id="imageview.error.pdf-module-missing">
+        <source>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>„%1“ lässt sich nicht öffnen, weil der Teil von Curvegrab X fehlt, der PDF-Dateien versteht. Bitte installieren Sie das Programm neu.</translation>
+    </message>
     <message id="imageview.pdf.password-title">
         <source>“%1” is locked with a password</source>
         <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>

@@ -766,6 +766,11 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Why a file was not written.</extracomment>
         <translation>The workbook could not be made. A sheet has room for 1048576 rows, and the disk needs some room for temporary files.</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

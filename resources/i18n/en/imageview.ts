@@ -153,6 +153,11 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>“%1” is protected in a way that is not supported. Save it without protection in the program that made it.</translation>
     </message>
+    <message id="imageview.error.pdf-module-missing">
+        <source>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</translation>
+    </message>
     <message id="imageview.pdf.password-title">
         <source>“%1” is locked with a password</source>
         <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>

@@ -766,6 +766,11 @@ Versión %1. Software libre bajo la Licencia Pública General de GNU, versión 3
         <extracomment>Why a file was not written.</extracomment>
         <translation>No se pudo crear el libro. En una hoja caben 1048576 filas, y el disco necesita algo de espacio para archivos temporales.</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>No se pueden escribir libros porque falta una parte de Curvegrab X. Vuelva a instalar el programa. Esa parte debe estar en %1.</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

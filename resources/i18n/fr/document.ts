@@ -766,6 +766,11 @@ Version %1. Logiciel libre sous licence publique générale GNU, version 3 ou ul
         <extracomment>Why a file was not written.</extracomment>
         <translation>Le classeur n’a pas pu être créé. Une feuille contient au plus 1048576 lignes, et le disque a besoin d’un peu de place pour des fichiers temporaires.</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>Les classeurs ne peuvent pas être écrits, car une partie de Curvegrab X manque. Veuillez réinstaller le programme. Cette partie doit se trouver dans %1.</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

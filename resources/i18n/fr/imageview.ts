@@ -153,6 +153,11 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>« %1 » est protégé d’une façon qui n’est pas prise en charge. Enregistrez-le sans protection dans le programme qui l’a créé.</translation>
     </message>
+    <message id="imageview.error.pdf-module-missing">
+        <source>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>« %1 » ne peut pas être ouvert, car la partie de Curvegrab X qui lit les fichiers PDF manque. Veuillez réinstaller le programme.</translation>
+    </message>
     <message id="imageview.pdf.password-title">
         <source>“%1” is locked with a password</source>
         <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>

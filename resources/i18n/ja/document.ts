@@ -766,6 +766,11 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Why a file was not written.</extracomment>
         <translation>ブックを作成できませんでした。1 枚のシートに入るのは 1048576 行までです。また、ディスクには一時ファイルのための空きが必要です。</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>Curvegrab X の一部が見つからないため、ブックを書き出せません。プログラムをもう一度インストールしてください。必要な部分の場所: %1</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

@@ -153,6 +153,11 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>「%1」は対応していない方法で保護されています。作成したプログラムで、保護せずに保存してください。</translation>
     </message>
+    <message id="imageview.error.pdf-module-missing">
+        <source>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>Curvegrab X の PDF ファイルを読み込む部分が見つからないため、「%1」を開けません。プログラムをもう一度インストールしてください。</translation>
+    </message>
     <message id="imageview.pdf.password-title">
         <source>“%1” is locked with a password</source>
         <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>

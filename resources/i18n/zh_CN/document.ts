@@ -766,6 +766,11 @@ Version %1. Free software under the GNU General Public License, version 3 or lat
         <extracomment>Why a file was not written.</extracomment>
         <translation>无法生成工作簿。一张工作表最多容纳 1048576 行，并且磁盘需要留出一些空间存放临时文件。</translation>
     </message>
+    <message id="document.export.missing">
+        <source>Workbooks cannot be written because a part of Curvegrab X is missing. Please install the program again. The part belongs in %1.</source>
+        <extracomment>Why a file was not written; %1 is a folder.</extracomment>
+        <translation>无法写入工作簿，因为缺少 Curvegrab X 的一部分。请重新安装本程序。该部分应位于 %1。</translation>
+    </message>
     <message id="document.export.text">
         <source>Tab-separated text</source>
         <extracomment>Kind of file in the save panel.</extracomment>

@@ -153,6 +153,11 @@
         <extracomment>%1 is the name of the file.</extracomment>
         <translation>“%1”的保护方式不受支持。请在制作它的程序中以不加保护的方式保存。</translation>
     </message>
+    <message id="imageview.error.pdf-module-missing">
+        <source>“%1” cannot be opened because the part of Curvegrab X that knows PDF files is missing. Please install the program again.</source>
+        <extracomment>%1 is the name of the file.</extracomment>
+        <translation>无法打开“%1”，因为缺少 Curvegrab X 中读取 PDF 文件的部分。请重新安装本程序。</translation>
+    </message>
     <message id="imageview.pdf.password-title">
         <source>“%1” is locked with a password</source>
         <extracomment>%1 is the name of the PDF file. Title of the sheet that asks for its password.</extracomment>
