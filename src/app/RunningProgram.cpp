@@ -1,20 +1,24 @@
 #include "app/RunningProgram.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLocalSocket>
+#include <QSocketNotifier>
 #include <QStandardPaths>
+#include <QThread>
+
+#include <utility>
 
 namespace {
 
 // One line of JSON goes there, an array of paths, and one line comes back.
 constexpr char accepted[] = "opened\n";
-constexpr qint64 longestRequest = 1'000'000;
-constexpr int timeToConnect = 1000; // milliseconds
-constexpr int timeToAnswer = 5000;
-constexpr int timeToStart = 5000;
+constexpr qsizetype longestRequest = 1'000'000;
+constexpr int timeToServe = 1000; // milliseconds
+constexpr int timeBetweenCalls = 10;
 
 std::optional<QStringList> pathsIn(const QByteArray &line)
 {
@@ -31,21 +35,71 @@ std::optional<QStringList> pathsIn(const QByteArray &line)
     return paths;
 }
 
+/// Whether the program at the other end took `paths`.
+bool isTaken(const LocalSocket &running, const QStringList &paths)
+{
+    const QByteArray request =
+        QJsonDocument(QJsonArray::fromStringList(paths)).toJson(QJsonDocument::Compact) + '\n';
+    if (!running.send(request))
+        return false;
+    QByteArray answer;
+    while (!answer.contains('\n')) {
+        const std::optional<QByteArray> more = running.awaited();
+        if (!more)
+            return false;
+        answer += *more;
+    }
+    return answer == accepted;
+}
+
 } // namespace
+
+/// A start that has called, until it hangs up or is hung up on.
+class RunningProgram::Visitor : public QObject
+{
+public:
+    Visitor(LocalSocket socket, RunningProgram &host)
+        : QObject(&host)
+        , m_socket(std::move(socket))
+        , m_notifier(m_socket.descriptor(), QSocketNotifier::Read)
+    {
+        connect(&m_notifier, &QSocketNotifier::activated, this, [this, &host] { read(host); });
+    }
+
+    void send(const QByteArray &bytes) const { static_cast<void>(m_socket.send(bytes)); }
+
+private:
+    void read(RunningProgram &host)
+    {
+        const std::optional<QByteArray> bytes = m_socket.received();
+        if (bytes)
+            m_request += *bytes;
+        const qsizetype end = m_request.indexOf('\n');
+        if (bytes && end < 0 && m_request.size() <= longestRequest)
+            return;
+        m_notifier.setEnabled(false);
+        if (end >= 0)
+            host.answer(*this, m_request.left(end));
+        m_socket.close();
+        deleteLater();
+    }
+
+    LocalSocket m_socket;
+    QSocketNotifier m_notifier;
+    QByteArray m_request;
+};
 
 RunningProgram::RunningProgram(const QString &name, QObject *parent)
     : QObject(parent)
     , m_name(name)
-    , m_starting(name + QStringLiteral(".lock"))
-{
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket *other = m_server.nextPendingConnection())
-            serve(other);
-    });
-}
+    , m_first(name + QStringLiteral(".lock"))
+{}
 
-RunningProgram::~RunningProgram() = default;
+RunningProgram::~RunningProgram()
+{
+    if (m_server.isOpen())
+        QFile::remove(m_name);
+}
 
 // The path of a socket must be short.
 QString RunningProgram::nameFor(const QString &stateFolder)
@@ -61,55 +115,44 @@ QString RunningProgram::nameFor(const QString &stateFolder)
 
 bool RunningProgram::handOver(const QStringList &paths)
 {
-    const bool isAlone = m_starting.tryLock(timeToStart);
-    QLocalSocket running;
-    running.connectToServer(m_name);
-    if (running.waitForConnected(timeToConnect)) {
-        const bool taken = isTaken(running, paths);
-        m_starting.unlock();
-        return taken;
+    if (m_first.hold()) {
+        serve();
+        return false;
     }
-    if (isAlone) {
-        QLocalServer::removeServer(m_name); // what a program left that was killed
-        m_server.listen(m_name);
+    // Another start, which may be as young as this one, was first.
+    const QDeadlineTimer patience(m_first.isThere() ? timeToServe : 0);
+    LocalSocket running = LocalSocket::connectedTo(m_name);
+    while (!running.isOpen() && !patience.hasExpired()) {
+        QThread::msleep(timeBetweenCalls);
+        running = LocalSocket::connectedTo(m_name);
     }
-    m_starting.unlock();
-    return false;
+    return running.isOpen() && isTaken(running, paths);
 }
 
-bool RunningProgram::isTaken(QLocalSocket &running, const QStringList &paths) const
+void RunningProgram::serve()
 {
-    running.write(QJsonDocument(QJsonArray::fromStringList(paths)).toJson(QJsonDocument::Compact) +
-                  '\n');
-    while (!running.canReadLine()) {
-        if (!running.waitForReadyRead(timeToAnswer))
-            return false;
-    }
-    return running.readLine() == accepted;
-}
-
-void RunningProgram::serve(QLocalSocket *other)
-{
-    connect(other, &QLocalSocket::disconnected, other, &QObject::deleteLater);
-    connect(other, &QLocalSocket::readyRead, this, [this, other] { read(other); });
-    if (other->bytesAvailable() > 0)
-        read(other);
-}
-
-void RunningProgram::read(QLocalSocket *other)
-{
-    if (!other->canReadLine()) {
-        if (other->bytesAvailable() > longestRequest)
-            other->abort();
+    QFile::remove(m_name); // what a program left that was killed
+    m_server = LocalSocket::listeningAt(m_name);
+    if (!m_server.isOpen())
         return;
-    }
-    const std::optional<QStringList> paths = pathsIn(other->readLine());
-    if (!paths) {
-        other->abort();
+    auto *notifier = new QSocketNotifier(m_server.descriptor(), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &RunningProgram::welcome);
+}
+
+void RunningProgram::welcome()
+{
+    LocalSocket socket = m_server.accepted();
+    if (socket.isOpen())
+        new Visitor(std::move(socket), *this);
+}
+
+// The start that called waits for the answer, but not for what the files bring about.
+void RunningProgram::answer(Visitor &visitor, const QByteArray &request)
+{
+    const std::optional<QStringList> paths = pathsIn(request);
+    if (!paths)
         return;
-    }
-    other->write(accepted);
-    other->flush();
-    other->disconnectFromServer();
-    Q_EMIT filesGiven(*paths);
+    visitor.send(accepted);
+    QMetaObject::invokeMethod(
+        this, [this, paths = *paths] { Q_EMIT filesGiven(paths); }, Qt::QueuedConnection);
 }

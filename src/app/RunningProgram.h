@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QLocalServer>
-#include <QLockFile>
+#include "app/HeldFile.h"
+#include "app/LocalSocket.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
-
-class QLocalSocket;
 
 /// One program serves a user on a display: a second start hands its files to the running one.
 class RunningProgram : public QObject
@@ -24,8 +23,8 @@ public:
     [[nodiscard]] static QString nameFor(const QString &stateFolder);
 
     /// Hands absolute `paths` (none: it only shows itself) to the program that runs already. False
-    /// if there is none, or if it does not answer; then this one serves the next start, as far as
-    /// the system lets it.
+    /// if there is none, then this one serves the next start, as far as the system lets it; or if
+    /// it does not answer.
     [[nodiscard]] bool handOver(const QStringList &paths);
 
 Q_SIGNALS:
@@ -33,11 +32,13 @@ Q_SIGNALS:
     void filesGiven(const QStringList &paths);
 
 private:
-    [[nodiscard]] bool isTaken(QLocalSocket &running, const QStringList &paths) const;
-    void serve(QLocalSocket *other);
-    void read(QLocalSocket *other);
+    class Visitor;
+
+    void serve();
+    void welcome();
+    void answer(Visitor &visitor, const QByteArray &request);
 
     QString m_name;
-    QLockFile m_starting; ///< held while a program finds out whether it is the first
-    QLocalServer m_server;
+    HeldFile m_first; ///< held by the program that serves the next starts
+    LocalSocket m_server;
 };

@@ -120,3 +120,11 @@ TEST_F(RunningProgramTest, programsWithOtherFilesOrAnotherDisplayDoNotMeet)
     EXPECT_NE(name, RunningProgram::nameFor(QStringLiteral("/home/a")));
     qputenv("DISPLAY", display);
 }
+
+// A program that hangs keeps its place, but nobody waits for it for ever.
+TEST_F(RunningProgramTest, withoutAnAnswerAStartGoesItsOwnWay)
+{
+    HeldFile held(name() + QStringLiteral(".lock"));
+    ASSERT_TRUE(held.hold());
+    EXPECT_FALSE(secondStartHandsOver({}));
+}

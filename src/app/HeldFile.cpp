@@ -1,0 +1,21 @@
+#include "app/HeldFile.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+HeldFile::HeldFile(const QString &path)
+    : m_descriptor(::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC,
+                          S_IRUSR | S_IWUSR))
+{}
+
+HeldFile::~HeldFile()
+{
+    if (isThere())
+        ::close(m_descriptor);
+}
+
+bool HeldFile::hold() { return isThere() && ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0; }
