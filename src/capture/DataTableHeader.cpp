@@ -6,7 +6,7 @@
 #include <QStyleOptionHeader>
 
 DataTableHeader::DataTableHeader(QWidget *parent)
-    : QHeaderView(Qt::Horizontal, parent)
+    : TableHeader(Qt::Horizontal, parent)
 {
     setSectionsClickable(true);
     setSectionsMovable(false);

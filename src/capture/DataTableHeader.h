@@ -1,12 +1,11 @@
 #pragma once
 
 #include "capture/CaptureSurroundings.h"
-
-#include <QHeaderView>
+#include "capture/TableHeader.h"
 
 /// The titles above the data table. A press on one says which modifiers were held; the titles of
 /// selected columns stand out, and the column that the keyboard acts on has a focus frame.
-class DataTableHeader : public QHeaderView
+class DataTableHeader : public TableHeader
 {
     Q_OBJECT
 

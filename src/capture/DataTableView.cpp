@@ -64,6 +64,9 @@ DataTableView::DataTableView(QWidget *parent)
     QFont font = QApplication::font("QMenu");
     font.setPointSizeF(cellFontSize);
     setFont(font);
+    // Those that are there at first would measure all titles before they give way to these.
+    setHorizontalHeader(m_header);
+    setVerticalHeader(new TableHeader(Qt::Vertical, this));
     setModel(m_model);
     setItemDelegate(new CellDelegate(this));
     // The selection is our own; the platform's, of cells, stays empty.
@@ -80,7 +83,6 @@ DataTableView::DataTableView(QWidget *parent)
 
 void DataTableView::setUpHeaders()
 {
-    setHorizontalHeader(m_header);
     const int width = fontMetrics().horizontalAdvance(QStringLiteral("(-0.123, -1.23e+03)"));
     m_header->setMinimumSectionSize(minimumColumnWidth);
     m_header->setDefaultSectionSize(width + cellPadding);

@@ -1,10 +1,10 @@
 #include "document/EmptyPictureHint.h"
 
+#include "document/SymbolIcons.h"
 #include "platform/Texts.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -20,11 +20,10 @@ EmptyPictureHint::EmptyPictureHint(QWidget *area)
     auto *column = new QVBoxLayout(this);
     column->setSpacing(10);
     auto *symbol = new QLabel(this);
-    symbol->setPixmap(QIcon(QStringLiteral(":/icons/curvegrab.svg")).pixmap(56, 56));
+    symbol->setPixmap(symbolicons::icon(QStringLiteral("curvegrab"), palette()).pixmap(56, 56));
     auto *title = new QLabel(texts::localized("document.empty.title"), this);
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.5);
-    large.setBold(true);
     title->setFont(large);
     auto *steps = new QLabel(texts::localized("document.empty.steps"), this);
     auto *open = new QPushButton(texts::localized("document.empty.open"), this);

@@ -16,6 +16,7 @@
 #include "document/WindowFrame.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/PictureMemory.h"
+#include "platform/FirstPaint.h"
 #include "platform/GeometryText.h"
 #include "ui_MyDocument.h"
 
@@ -49,6 +50,7 @@ ArchiveValue integerValue(int value) { return {std::int64_t{value}}; }
 
 void MyDocument::showWindow()
 {
+    firstpaint::whenOver(*this, [this] { pasteboardChanged(); });
     const QSize size = m_services.sessionMemory().windowSize().value_or(newWindowSize);
     const QSize room = m_window->screen()->availableGeometry().size();
     m_window->resize(m_window->minimumSizeHint().expandedTo(size.boundedTo(room)));

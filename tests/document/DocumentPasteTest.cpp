@@ -151,6 +151,18 @@ TEST_F(DocumentPasteTest, thePasteboardIsLookedAtOncePerChange)
     EXPECT_EQ(test.services.fakePasteboard.askedCount(), asked);
 }
 
+TEST(DocumentStart, thePasteboardIsLookedAtWhenTheWindowWasPainted)
+{
+    TestServices services;
+    services.fakePasteboard.setContent(picture());
+    MyDocument document(services);
+    document.showWindow();
+    document.window().activateWindow();
+    EXPECT_EQ(services.fakePasteboard.askedCount(), 0);
+    const auto *paste = document.window().findChild<QAction *>("paste");
+    EXPECT_TRUE(QTest::qWaitFor([paste] { return paste->isEnabled(); }));
+}
+
 TEST_F(DocumentPasteTest, aDamagedImageIsToldAndKeepsThePicture)
 {
     auto damaged = std::make_unique<QMimeData>();
