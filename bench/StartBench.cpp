@@ -3,7 +3,9 @@
 // toolkit that shows the same, because a machine has good and bad moments. In an X server without a
 // window manager, whose decoration would be taken for the window:
 //   xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench/start_bench [rounds [program]]
+#include <QDirIterator>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -50,9 +52,31 @@ bool shows(const QImage &column, QRgb colour)
     return count > 100;
 }
 
-/// Milliseconds until `isThere`; the program is ended then.
-double timeToShow(const QString &program, const QStringList &arguments,
-                  const QProcessEnvironment &environment, const std::function<bool()> &isThere)
+constexpr double nanosecondsOfOne = 1e6; // millisecond
+
+struct Start
+{
+    double time = 0;      ///< milliseconds until the window is there
+    double processor = 0; ///< milliseconds that its threads had a processor meanwhile
+};
+
+/// Milliseconds that the threads of a process have had a processor, as the kernel counts them.
+double processorTimeOf(qint64 process)
+{
+    double time = 0;
+    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(process),
+                         QDir::Dirs | QDir::NoDotAndDotDot);
+    while (threads.hasNext()) {
+        QFile counts(threads.next() + QStringLiteral("/schedstat"));
+        if (counts.open(QIODevice::ReadOnly))
+            time += counts.readAll().split(' ').front().toDouble() / nanosecondsOfOne;
+    }
+    return time;
+}
+
+/// Starts the program until `isThere`; it is ended then.
+Start timeToShow(const QString &program, const QStringList &arguments,
+                 const QProcessEnvironment &environment, const std::function<bool()> &isThere)
 {
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -62,11 +86,11 @@ double timeToShow(const QString &program, const QStringList &arguments,
     process.start(program, arguments);
     while (!isThere() && clock.elapsed() < patience)
         QThread::usleep(500);
-    constexpr double perMillisecond = 1e6;
-    const double time = static_cast<double>(clock.nsecsElapsed()) / perMillisecond;
+    const Start start{static_cast<double>(clock.nsecsElapsed()) / nanosecondsOfOne,
+                      processorTimeOf(process.processId())};
     process.kill();
     process.waitForFinished();
-    return time;
+    return start;
 }
 
 /// The window of a program that was ended goes a little later.
@@ -80,6 +104,36 @@ double median(std::vector<double> times)
 {
     std::sort(times.begin(), times.end());
     return times[times.size() / 2];
+}
+
+std::vector<double> each(const std::vector<Start> &starts, double Start::*value)
+{
+    std::vector<double> values;
+    values.reserve(starts.size());
+    for (const Start &start : starts)
+        values.push_back(start.*value);
+    return values;
+}
+
+void print(const char *what, double program, double smallest)
+{
+    std::printf("  %-24s program %6.1f ms, smallest %6.1f ms, ratio %.2f\n", what, program,
+                smallest, program / smallest);
+}
+
+void report(const char *what, const std::vector<Start> &program, const std::vector<Start> &smallest)
+{
+    const std::vector<double> times = each(program, &Start::time);
+    const std::vector<double> leastTimes = each(smallest, &Start::time);
+    std::vector<double> ratios;
+    for (std::size_t i = 0; i < times.size(); ++i)
+        ratios.push_back(times[i] / leastTimes[i]);
+    std::printf("%s median of ratios %.2f\n", what, median(ratios));
+    print("median", median(times), median(leastTimes));
+    print("shortest", *std::min_element(times.begin(), times.end()),
+          *std::min_element(leastTimes.begin(), leastTimes.end()));
+    print("processor, median", median(each(program, &Start::processor)),
+          median(each(smallest, &Start::processor)));
 }
 
 } // namespace
@@ -100,24 +154,19 @@ int main(int argc, char **argv)
 
     const auto compare = [&](const char *what, const QStringList &arguments,
                              const std::function<bool()> &isThere) {
-        std::vector<double> times;
-        std::vector<double> smallestTimes;
-        std::vector<double> ratios;
+        std::vector<Start> starts;
+        std::vector<Start> smallestStarts;
         for (int round = 0; round <= rounds; ++round) {
             awaitEmptyScreen(nothing);
-            const double least = timeToShow(smallest, arguments, environment, isThere);
+            const Start least = timeToShow(smallest, arguments, environment, isThere);
             awaitEmptyScreen(nothing);
-            const double time = timeToShow(program, arguments, environment, isThere);
+            const Start start = timeToShow(program, arguments, environment, isThere);
             if (round == 0)
                 continue; // the files come from the disk
-            smallestTimes.push_back(least);
-            times.push_back(time);
-            ratios.push_back(time / least);
+            smallestStarts.push_back(least);
+            starts.push_back(start);
         }
-        std::printf("%-22s program %6.1f ms, smallest %6.1f ms, ratio of medians %.2f, "
-                    "median of ratios %.2f\n",
-                    what, median(times), median(smallestTimes),
-                    median(times) / median(smallestTimes), median(ratios));
+        report(what, starts, smallestStarts);
     };
     compare("an empty window:", {}, [&nothing] { return look() != nothing; });
     compare("12 megapixels:", {picture}, [] { return shows(look(), paper); });
