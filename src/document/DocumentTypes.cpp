@@ -14,10 +14,7 @@ bool isDocument(const QString &path)
     return QFileInfo(path).suffix().compare(QLatin1String(extension), Qt::CaseInsensitive) == 0;
 }
 
-bool isPicture(const QString &path)
-{
-    return picturesuffixes::all().contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
-}
+bool isPicture(const QString &path) { return picturesuffixes::includes(QFileInfo(path).suffix()); }
 
 QString documentPathFor(const QString &path)
 {

@@ -75,6 +75,18 @@ bool isIncomplete(const PictureFile &file, const QByteArray &format)
 /// Looks for the signature of page descriptions, which are never read as bitmaps.
 bool isPageDescription(PictureFile &file) { return file.peek(signatureRange).contains("%PDF-"); }
 
+/// The format that the first bytes tell beyond doubt; null for those that the toolkit's plugins,
+/// all of which it loads for that, have to be asked about.
+QByteArray formatOfSignature(PictureFile &file)
+{
+    static const std::array<std::pair<QByteArray, QByteArray>, 2> signatures{
+        {{QByteArray("\x89PNG\r\n\x1a\n"), "png"}, {QByteArray("\xff\xd8\xff"), "jpeg"}}};
+    for (const auto &[signature, format] : signatures)
+        if (file.peek(signature.size()) == signature)
+            return format;
+    return {};
+}
+
 /// Opens `file` for `reader` up to the point where only the decoding is left.
 std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader,
                                       const PictureSource &source, std::uint64_t memoryLimit)
@@ -90,7 +102,9 @@ std::optional<PictureProblem> prepare(PictureFile &file, QImageReader &reader,
         return PictureProblem::PdfUnderOtherName;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     reader.setDevice(&file);
-    reader.setDecideFormatFromContent(true);
+    const QByteArray format = formatOfSignature(file);
+    reader.setFormat(format);
+    reader.setDecideFormatFromContent(format.isEmpty());
     reader.setAutoTransform(true);
     if (const auto problem = problemOfFormat(reader, source))
         return problem;

@@ -3,6 +3,9 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
+#include <array>
+
 namespace picturesuffixes {
 
 QStringList all()
@@ -16,11 +19,20 @@ QStringList all()
     return suffixes;
 }
 
+bool includes(const QString &suffix)
+{
+    // Those that charts mostly come with need not wait for all plugins to be loaded.
+    static const std::array<QString, 4> usual{QStringLiteral("png"), QStringLiteral("jpg"),
+                                              QStringLiteral("jpeg"), QStringLiteral("pdf")};
+    const QString lower = suffix.toLower();
+    return std::find(usual.begin(), usual.end(), lower) != usual.end() || all().contains(lower);
+}
+
 bool includesSuffixOf(const QString &path)
 {
     const QFileInfo file(path);
     const bool isHiddenName = file.completeBaseName().isEmpty();
-    return !isHiddenName && all().contains(file.suffix(), Qt::CaseInsensitive);
+    return !isHiddenName && includes(file.suffix());
 }
 
 } // namespace picturesuffixes

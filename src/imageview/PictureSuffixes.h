@@ -8,6 +8,8 @@ namespace picturesuffixes {
 /// their point, in alphabetical order.
 [[nodiscard]] QStringList all();
 
+/// Whether `suffix`, in upper or lower case, is one of them.
+[[nodiscard]] bool includes(const QString &suffix);
 /// Whether the file name of `path` has one of them, in upper or lower case.
 [[nodiscard]] bool includesSuffixOf(const QString &path);
 
