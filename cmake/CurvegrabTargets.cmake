@@ -91,7 +91,9 @@ function(curvegrab_add_catalogue target)
         set_source_files_properties(${catalogue} PROPERTIES GENERATED ON)
         list(APPEND catalogues ${catalogue})
     endforeach()
-    qt_add_resources(${target} ${target}_texts PREFIX /i18n BASE ${folder} FILES ${catalogues})
+    # Every start reads them: as they are, there is nothing to unpack.
+    qt_add_resources(${target} ${target}_texts PREFIX /i18n BASE ${folder} FILES ${catalogues}
+        OPTIONS --no-compress)
 endfunction()
 
 file(GLOB CURVEGRAB_ICONS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/icons/*.svg)
