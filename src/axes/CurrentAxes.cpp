@@ -124,6 +124,8 @@ void CurrentAxes::setAnchors(const std::vector<FloatPoint> &anchors)
     m_document.undoManager().registerUndo(
         this, [this, before = currentAnchors()] { setAnchors(before); });
     m_anchors = {anchors[0], anchors[1], anchors[2], anchors[3]};
+    // What comes next is a change of its own, also where the anchors are back in their places.
+    endMovesOfPart();
     makeAnchorRectsWithScale(m_graphView.imageScale());
     m_graphView.setNeedsDisplay();
 }

@@ -153,6 +153,20 @@ TEST_F(CurrentAxesKeys, anotherPartIsAnotherStep)
     EXPECT_TRUE(undoManager().canUndo());
 }
 
+TEST_F(CurrentAxesKeys, aMoveAfterTheUndoOfAnotherChangeIsAStepOfItsOwn)
+{
+    begin(0);
+    move(3, right);
+    axes.resetPosition(CurrentAxes::Sender::Control);
+    endEvent();
+    undoManager().undo();
+    ASSERT_TRUE(undoManager().canRedo());
+    move(3, right);
+    EXPECT_FALSE(undoManager().canRedo());
+    undoManager().undo();
+    EXPECT_EQ(axes.anchor2Point(), (FloatPoint{401, 80}));
+}
+
 TEST_F(CurrentAxesKeys, aMoveAfterAnUndoIsAStepOfItsOwn)
 {
     begin(0);
