@@ -107,6 +107,8 @@ double Step::times(double count) const
 
 Step stepOfAtLeast(double length)
 {
+    if (!(length > 0) || !std::isfinite(length))
+        return {};
     const int exponent = static_cast<int>(std::floor(std::log10(length)));
     for (const Step step : {Step{1, exponent}, Step{2, exponent}, Step{5, exponent}}) {
         if (step.length() >= length)

@@ -24,7 +24,8 @@ struct Step
     friend bool operator==(const Step &, const Step &) = default;
 };
 
-/// The shortest step that is not shorter than `length`, which must be finite and above 0.
+/// The shortest step that is not shorter than `length`; 1 where `length` is not finite or not
+/// above 0.
 [[nodiscard]] Step stepOfAtLeast(double length);
 
 struct Range

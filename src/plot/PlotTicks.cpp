@@ -30,7 +30,7 @@ int digitsFor(const plotticks::Range &range, double step)
 {
     const double largest = std::max(std::fabs(range.low), std::fabs(range.high));
     const double digits = std::ceil(std::log10(largest / step)) + 1;
-    return static_cast<int>(std::min(std::max(digits, 6.0), double(mostDigits)));
+    return static_cast<int>(std::min(std::max(6.0, digits), double(mostDigits)));
 }
 
 QString powerOfTen(int exponent)
@@ -42,6 +42,17 @@ QString powerOfTen(int exponent)
     return power;
 }
 
+/// On a logarithmic axis without decades the values themselves have to be told apart.
+int digitsOnLogarithmicAxis(const plotticks::Range &range)
+{
+    if (range.high - range.low >= 1)
+        return 6;
+    plotticks::Range values;
+    values.low = std::pow(10.0, range.low);
+    values.high = std::pow(10.0, range.high);
+    return digitsFor(values, (values.high - values.low) / intervals);
+}
+
 QString labelOnLogarithmicAxis(const plotticks::Range &range, const gridvalues::Line &line,
                                bool labelsMinors)
 {
@@ -51,7 +62,7 @@ QString labelOnLogarithmicAxis(const plotticks::Range &range, const gridvalues::
     const double mantissa = std::round(std::pow(10.0, line.position - std::floor(line.position)));
     if (!line.isMajor && (!labelsMinors || (mantissa != 2 && mantissa != 5)))
         return {};
-    return text(std::pow(10.0, line.position), 6);
+    return text(std::pow(10.0, line.position), digitsOnLogarithmicAxis(range));
 }
 
 QString labelOfAngle(int twelfths, const PlotAngles &angles)
@@ -59,15 +70,17 @@ QString labelOfAngle(int twelfths, const PlotAngles &angles)
     int count = twelfths;
     if (angles.isSigned && count > anglesPerTurn / 2)
         count -= anglesPerTurn;
+    const QString minus = QStringLiteral("−");
     if (angles.isInDegrees)
-        return text(count * degreesPerTick, 6) + QChar(u'°');
+        return (count < 0 ? minus : QString()) + text(std::abs(count) * degreesPerTick, 6) +
+               QChar(u'°');
     if (count == 0)
         return QStringLiteral("0");
     // A twelfth of a turn is a sixth of π.
     const int common = std::gcd(std::abs(count), anglesPerTurn / 2);
     const int above = std::abs(count) / common;
     const int below = anglesPerTurn / 2 / common;
-    QString label = count < 0 ? QStringLiteral("−") : QString();
+    QString label = count < 0 ? minus : QString();
     if (above != 1)
         label += text(above, 6);
     label += QChar(u'π');

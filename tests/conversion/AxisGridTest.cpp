@@ -181,7 +181,9 @@ TEST(AxisGrid, raysOfPolarAxesHaveRoundAnglesWhateverTheirUnitAndSense)
             const auto converter = ZKConvCoordinatePolar::convCoordWithCenter(
                 {110, 90}, {190, 140}, 0, 10, false, range, ccw);
             const double tenDegrees = range < 2 ? 10 : sampleconverters::pi / 18;
-            for (const Segment &ray : gridOf(*converter, {200, 200}, 10).segments) {
+            const Grid grid = gridOf(*converter, {200, 200}, 10);
+            ASSERT_EQ(grid.segments.size(), 36U) << range << ccw;
+            for (const Segment &ray : grid.segments) {
                 const double angle = valuesOf(*converter, ray, true).second / tenDegrees;
                 EXPECT_NEAR(angle, std::round(angle), 1e-6) << range << ccw;
             }
@@ -242,11 +244,20 @@ TEST(AxisGrid, ofARadiusPointOnTheCentreIsEmpty)
 
 TEST(AxisGrid, ofAFoldedQuadrangleDoesNoHarm)
 {
-    const sampleconverters::Corners folded{{0, 0}, {100, 0}, {50, 0}, {100, 100}};
-    if (const auto converter = keystone(folded)) {
-        for (const Segment &segment : gridOf(*converter, {200, 200}, 10).segments)
-            EXPECT_TRUE(isInside(segment.start, {200, 200}));
-    }
+    const sampleconverters::Corners bowTie{{0, 0}, {100, 0}, {100, 100}, {0, 100}};
+    const auto converter = keystone(bowTie);
+    ASSERT_NE(converter, nullptr);
+    const Grid grid = gridOf(*converter, {200, 200}, 10);
+    EXPECT_FALSE(grid.isEmpty());
+    for (const Segment &segment : grid.segments)
+        EXPECT_TRUE(isInside(segment.start, {200, 200}) && isInside(segment.end, {200, 200}));
+}
+
+TEST(AxisGrid, ofAQuadrangleThatIsATriangleIsEmpty)
+{
+    const auto converter = keystone({{0, 0}, {100, 0}, {50, 0}, {100, 100}});
+    ASSERT_NE(converter, nullptr);
+    EXPECT_TRUE(gridOf(*converter, {200, 200}, 10).isEmpty());
 }
 
 TEST(AxisGrid, valuesOfAnySizeDoNoHarm)

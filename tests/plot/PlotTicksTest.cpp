@@ -68,6 +68,16 @@ TEST(PlotTicks, withinADecadeHaveRoundValues)
               "2 2.5 3 3.5 4");
 }
 
+TEST(PlotTicks, withinANarrowPartOfADecadeTellNeighboursApart)
+{
+    for (const double width : {1e-3, 1e-6, 1e-9}) {
+        const auto ticks = plotticks::along({3 - width, 3 + width, true, false});
+        ASSERT_GE(ticks.size(), 4U) << width;
+        for (std::size_t i = 1; i < ticks.size(); ++i)
+            EXPECT_NE(ticks[i - 1].label, ticks[i].label) << width;
+    }
+}
+
 TEST(PlotTicks, tellNeighboursApart)
 {
     const std::vector<PlotTick> ticks = plotticks::along({1234567, 1234568, false, false});
@@ -93,7 +103,7 @@ TEST(PlotTicks, aroundACircleBeginAtTheTop)
 TEST(PlotTicks, aroundACircleFollowDirectionSenseAndSign)
 {
     EXPECT_EQ(labels(plotticks::around({std::numbers::pi / 2, false, true, true})),
-              "0° 30° 60° 90° 120° 150° 180° -150° -120° -90° -60° -30°");
+              "0° 30° 60° 90° 120° 150° 180° −150° −120° −90° −60° −30°");
 }
 
 TEST(PlotTicks, inRadiansArePartsOfPi)
