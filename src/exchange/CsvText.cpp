@@ -2,7 +2,9 @@
 
 #include "exchange/ExchangeNumber.h"
 #include "exchange/ExchangeTitles.h"
+#include "platform/CsvField.h"
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -11,7 +13,7 @@ void appendLine(std::string &text, const std::vector<std::string> &fields)
 {
     const char *separator = "";
     for (const std::string &field : fields) {
-        text += separator + csvtext::field(field);
+        text += separator + csvfield::quoted(field);
         separator = ",";
     }
     text += "\r\n";
@@ -26,14 +28,20 @@ std::vector<std::string> titles(const std::vector<ExchangeSeries> &series)
     return fields;
 }
 
+/// Spreadsheets would take "inf" and "nan" for words, and "-inf" for a formula.
+std::string numberField(double value, std::optional<int> digits)
+{
+    return std::isfinite(value) ? exchangenumber::text(value, digits) : std::string();
+}
+
 std::vector<std::string> dataLine(const std::vector<ExchangeSeries> &series, std::size_t row,
                                   std::optional<int> digits)
 {
     std::vector<std::string> fields;
     for (const ExchangeSeries &one : series) {
         const bool hasPoint = row < one.points.size();
-        fields.push_back(hasPoint ? exchangenumber::text(one.points[row].X(), digits) : "");
-        fields.push_back(hasPoint ? exchangenumber::text(one.points[row].Y(), digits) : "");
+        fields.push_back(hasPoint ? numberField(one.points[row].X(), digits) : "");
+        fields.push_back(hasPoint ? numberField(one.points[row].Y(), digits) : "");
     }
     return fields;
 }
@@ -51,19 +59,6 @@ std::string table(const ExchangeFacts &facts, const ExchangeStyle &style)
     for (std::size_t row = 0; row < rows; ++row)
         appendLine(text, dataLine(facts.series, row, style.digits));
     return text;
-}
-
-std::string field(std::string_view text)
-{
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos)
-        return std::string(text);
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"')
-            quoted += '"';
-        quoted += character;
-    }
-    return quoted + '"';
 }
 
 } // namespace csvtext

@@ -1,31 +1,29 @@
 #include "platform/TableContent.h"
 
+#include "platform/CsvField.h"
 #include "platform/TableAsHtml.h"
 
 #include <QStringList>
 
-namespace {
+#include <string>
 
-QString csvField(const QString &field)
-{
-    if (!field.contains(u',') && !field.contains(u'"') && !field.contains(u'\r'))
-        return field;
-    return u'"' + QString(field).replace(u'"', QStringLiteral("\"\"")) + u'"';
-}
+namespace {
 
 QByteArray asCsv(const QString &text)
 {
     QStringList lines = text.split(u'\n');
     // Behind the last line feed there is no line.
     lines.removeLast();
-    QString csv;
+    std::string csv;
     for (const QString &line : lines) {
-        QStringList fields = line.split(u'\t');
-        for (QString &field : fields)
-            field = csvField(field);
-        csv += fields.join(u',') + QStringLiteral("\r\n");
+        const char *separator = "";
+        for (const QString &field : line.split(u'\t')) {
+            csv += separator + csvfield::quoted(field.toStdString());
+            separator = ",";
+        }
+        csv += "\r\n";
     }
-    return csv.toUtf8();
+    return QByteArray::fromStdString(csv);
 }
 
 } // namespace
