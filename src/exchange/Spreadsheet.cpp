@@ -91,7 +91,8 @@ QString reasonOfNothing()
 
 std::vector<std::string> sheetNames(const std::vector<ExchangeFacts> &documents)
 {
-    QSet<QString> taken;
+    // Spreadsheet programs keep this name for themselves.
+    QSet<QString> taken{QStringLiteral("history")};
     std::vector<std::string> names;
     for (const ExchangeFacts &facts : documents) {
         const QFileInfo file(QString::fromStdString(facts.document));

@@ -185,6 +185,7 @@ TEST(Spreadsheet, sheetsHaveNamesThatSheetsMayHave)
     using Names = std::vector<std::string>;
     EXPECT_EQ(namesFor({"a.crvgrab", "A.crvgrab", "a 2.crvgrab"}), Names({"a", "A 2", "a 2 2"}));
     EXPECT_EQ(namesFor({"what?[1]*.png", "'", "-"}), Names({"what1", "Data", "-"}));
+    EXPECT_EQ(namesFor({"History.crvgrab", "HISTORY"}), Names({"History 2", "HISTORY 3"}));
     const std::string longName(40, 'x');
     EXPECT_EQ(namesFor({longName, longName}),
               Names({std::string(31, 'x'), std::string(29, 'x') + " 2"}));
