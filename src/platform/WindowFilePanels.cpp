@@ -37,13 +37,18 @@ bool endsIn(const QString &path, const FileKind &kind)
     return path.endsWith(kind.suffix, Qt::CaseInsensitive);
 }
 
+/// The property of a panel that keeps the name which it shows on its own account.
+constexpr char proposedName[] = "proposedName";
+
 /// The kind that the user means: the one of a suffix that was typed, otherwise the one of the
-/// filter. The suffix of the proposed name was not typed.
-std::size_t kindOf(const FileToSave &file, const QString &path, qsizetype chosenFilter)
+/// filter. The suffix of a proposed name was not typed.
+std::size_t kindOf(const FileToSave &file, const QString &path, const QFileDialog &panel)
 {
-    for (std::size_t i = 0; i < file.kinds.size(); ++i)
-        if (i != file.kind && endsIn(path, file.kinds[i]))
-            return i;
+    if (QFileInfo(path).fileName() != panel.property(proposedName).toString())
+        for (std::size_t i = 0; i < file.kinds.size(); ++i)
+            if (endsIn(path, file.kinds[i]))
+                return i;
+    const auto chosenFilter = panel.nameFilters().indexOf(panel.selectedNameFilter());
     return chosenFilter < 0 ? file.kind : static_cast<std::size_t>(chosenFilter);
 }
 
@@ -60,6 +65,15 @@ QString completed(const FileToSave &file, const QString &path, std::size_t kind)
     return withoutSuffix(path, file.kinds[file.kind]) + file.kinds[kind].suffix;
 }
 
+void propose(QFileDialog &panel, const QString &name)
+{
+    panel.selectFile(name);
+    // Panels of the desktop may keep the name that they have.
+    const QStringList paths = panel.selectedFiles();
+    panel.setProperty(proposedName,
+                      paths.isEmpty() ? QString() : QFileInfo(paths.first()).fileName());
+}
+
 /// Another filter gives the name in the panel its suffix.
 void renameWithFilter(QFileDialog &panel, const std::vector<FileKind> &kinds)
 {
@@ -70,8 +84,8 @@ void renameWithFilter(QFileDialog &panel, const std::vector<FileKind> &kinds)
     const QString name = QFileInfo(paths.first()).fileName();
     for (const FileKind &kind : kinds)
         if (endsIn(name, kind)) {
-            panel.selectFile(withoutSuffix(name, kind) +
-                             kinds[static_cast<std::size_t>(chosen)].suffix);
+            propose(panel,
+                    withoutSuffix(name, kind) + kinds[static_cast<std::size_t>(chosen)].suffix);
             return;
         }
 }
@@ -93,7 +107,7 @@ QDialog *makeSavePanel(QWidget *window, const FileToSave &file, const QString &f
     panel->selectNameFilter(panel->nameFilters().at(static_cast<qsizetype>(file.kind)));
     // The name is not complete yet when the panel would ask, so the question comes later.
     panel->setOption(QFileDialog::DontConfirmOverwrite);
-    panel->selectFile(completed(file, file.proposedName, file.kind));
+    propose(*panel, completed(file, file.proposedName, file.kind));
     QObject::connect(panel, &QFileDialog::filterSelected, panel,
                      [panel, kinds = file.kinds] { renameWithFilter(*panel, kinds); });
     return panel;
@@ -148,9 +162,7 @@ void WindowFilePanels::askToSave(Panel kindOfPanel, const FileToSave &file,
             if (path.isEmpty())
                 return;
             remember(kindOfPanel, path);
-            const auto &panel = static_cast<const QFileDialog &>(dialog);
-            const std::size_t kind =
-                kindOf(file, path, panel.nameFilters().indexOf(panel.selectedNameFilter()));
+            const std::size_t kind = kindOf(file, path, static_cast<const QFileDialog &>(dialog));
             const QString whole = completed(file, path, kind);
             FileToSave next = file;
             next.kind = kind;

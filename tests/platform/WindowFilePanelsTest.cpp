@@ -179,6 +179,29 @@ TEST_F(WindowFilePanelsTest, anotherFilterGivesTheNameItsSuffix)
     EXPECT_EQ(m_kind, 1U);
 }
 
+TEST_F(WindowFilePanelsTest, aTypedSuffixWinsOverTheFilter)
+{
+    for (const char *name : {"result.txt", "chart.txt"}) {
+        askForTwoKinds();
+        chooseFilter(1);
+        confirm(QString::fromLatin1(name));
+        EXPECT_EQ(m_chosen.takeLast(), inFolder(QString::fromLatin1(name)));
+        EXPECT_EQ(m_kind, 0U);
+    }
+}
+
+TEST_F(WindowFilePanelsTest, theSuffixOfAProposedNameFollowsTheFilter)
+{
+    askForTwoKinds();
+    confirm(QStringLiteral("chart.txt"));
+    EXPECT_EQ(m_kind, 0U);
+    askForTwoKinds();
+    chooseFilter(1);
+    confirm(QStringLiteral("chart.csv"));
+    EXPECT_EQ(m_chosen.last(), inFolder(QStringLiteral("chart.csv")));
+    EXPECT_EQ(m_kind, 1U);
+}
+
 TEST_F(WindowFilePanelsTest, theSavePanelBeginsInTheFolderAskedFor)
 {
     ask({{QStringLiteral("Text"), QStringLiteral(".txt")}}, m_folder.path());
