@@ -24,11 +24,12 @@ The axes may be parallel, those of a chart photographed at an angle, or
 polar; linear or logarithmic. Ten data series are kept in a document. Data
 can be exported on the command line, without a display.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Plugins that the toolkit loads: TIFF and WebP pictures, and windows on a Wayland desktop. The other
-# recommended ones let the desktop know of our file type, entry and icons.
+# Plugins that the toolkit loads: TIFF and WebP pictures, and windows on a Wayland desktop; and its own
+# words in other languages. The other recommended ones let the desktop know of our file type, entry
+# and icons.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins (>= 6.4)")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "qt6-wayland (>= 6.4), shared-mime-info, desktop-file-utils, hicolor-icon-theme")
+    "qt6-wayland (>= 6.4), qt6-translations-l10n (>= 6.4), shared-mime-info, desktop-file-utils, hicolor-icon-theme")
 
 set(documentation ${CMAKE_CURRENT_BINARY_DIR}/debian)
 configure_file(debian/changelog.in ${documentation}/changelog.Debian @ONLY)
