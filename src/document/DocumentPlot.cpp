@@ -28,6 +28,7 @@ DocumentPlot::DocumentPlot(MyDocument &document, DocumentServices &services)
     , m_dialogs(services.makeDialogs(m_window))
 {
     m_window.setDialogs(*m_dialogs.sheets, *m_dialogs.panels);
+    m_window.setHelpViewer(services.helpViewer());
     m_refreshing.setSingleShot(true);
     m_refreshing.setInterval(refreshInterval);
     connect(&m_refreshing, &QTimer::timeout, this, &DocumentPlot::refresh);

@@ -2,6 +2,7 @@
 
 #include "platform/DurableFile.h"
 #include "platform/FilePanels.h"
+#include "platform/HelpViewer.h"
 #include "platform/Sheets.h"
 #include "platform/Texts.h"
 #include "plot/PlotChoices.h"
@@ -21,6 +22,7 @@ namespace {
 
 constexpr QSize firstSize(640, 520);
 constexpr QSize smallestView(320, 240);
+constexpr char helpAnchor[] = "plot";
 
 QString withoutSuffix(const QString &name)
 {
@@ -52,11 +54,8 @@ PlotWindow::PlotWindow(PlotModule &module, PlotChoices &choices)
     column->setSpacing(0);
     makeView();
     makeBar();
-    auto *closing = new QAction(this);
-    closing->setObjectName(QStringLiteral("closePlot"));
-    closing->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)});
-    connect(closing, &QAction::triggered, this, &QWidget::close);
-    addAction(closing);
+    addCommand("closePlot", {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)},
+               [this] { close(); });
 }
 
 QSize PlotWindow::sizeHint() const { return firstSize; }
@@ -65,6 +64,24 @@ void PlotWindow::setDialogs(Sheets &sheets, FilePanels &panels)
 {
     m_sheets = &sheets;
     m_panels = &panels;
+}
+
+void PlotWindow::setHelpViewer(HelpViewer &help)
+{
+    addCommand("showPlotHelp", {QKeySequence(QKeySequence::HelpContents)}, [&help] {
+        help.openHelpAnchor(QString::fromLatin1(helpAnchor),
+                            QString::fromLatin1(helpbook::bookName));
+    });
+}
+
+void PlotWindow::addCommand(const char *name, const QList<QKeySequence> &keys,
+                            const std::function<void()> &command)
+{
+    auto *action = new QAction(this);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, command);
+    addAction(action);
 }
 
 void PlotWindow::makeView()

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
 #include <QWidget>
 
+#include <functional>
+
 class FilePanels;
+class HelpViewer;
 class PlotChoices;
 class PlotModule;
 class PlotView;
@@ -22,6 +27,8 @@ public:
 
     /// What the window asks its user with; needed before the window is used.
     void setDialogs(Sheets &sheets, FilePanels &panels);
+    /// What shows the help about the plot; outlives the window.
+    void setHelpViewer(HelpViewer &help);
 
     void showContent(const PlotContent &content);
 
@@ -33,6 +40,8 @@ public:
 private:
     void makeView();
     void makeBar();
+    void addCommand(const char *name, const QList<QKeySequence> &keys,
+                    const std::function<void()> &command);
     void save();
     void write(const QString &path, std::size_t format);
 
