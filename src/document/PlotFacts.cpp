@@ -13,6 +13,7 @@
 #include <QComboBox>
 
 #include <cmath>
+#include <numbers>
 
 namespace {
 
@@ -21,23 +22,63 @@ constexpr int signedDegrees = 1;
 constexpr int firstRangeInRadians = 2;
 constexpr int signedRadians = 3;
 
+FloatPoint way(FloatPoint from, FloatPoint to) { return {to.x - from.x, to.y - from.y}; }
+
+/// Whether an axis runs to the left or downwards. The longer component decides: the other one of an
+/// axis that runs upright, or level, is chance.
+bool runsBackwards(float usualComponent, float otherComponent)
+{
+    return std::fabs(usualComponent) >= std::fabs(otherComponent) ? usualComponent < 0
+                                                                  : otherComponent < 0;
+}
+
+/// `backwards` is the way from the first to the last value; the ranges of a plot run from the low
+/// value to the high one.
+PlotAxis axisOf(double first, double last, bool isLogarithmic, bool backwards)
+{
+    return {first, last, isLogarithmic, backwards != (first > last)};
+}
+
+/// A radius that is smaller at its anchor than at the centre grows on the side away from the
+/// anchor, by as much as it was to shrink: points have a distance, which is never negative.
+void turnFallingRadius(PlotContent &content)
+{
+    PlotAxis &radius = content.y;
+    if (!(radius.first > radius.last))
+        return;
+    content.angles.zeroDirection += std::numbers::pi;
+    radius.last = radius.isLogarithmic ? radius.first / radius.last * radius.first
+                                       : 2 * radius.first - radius.last;
+}
+
 void takeAxes(PlotContent &content, const CurrentAxes &axes)
 {
     const std::vector<FloatPoint> anchors = axes.currentAnchors();
-    const FloatPoint alongX{anchors[1].x - anchors[0].x, anchors[1].y - anchors[0].y};
+    const FloatPoint alongX = way(anchors[0], anchors[1]);
+    const FloatPoint alongY = way(anchors[0], anchors[3]);
     content.isPolar = axes.axisType() == axistype::polar;
-    content.x = {axes.minXValue(), axes.maxXValue(), axes.logX(), alongX.x < 0};
-    content.y = {axes.minYValue(), axes.maxYValue(), axes.logY(), anchors[3].y < anchors[0].y};
+    content.x =
+        axisOf(axes.minXValue(), axes.maxXValue(), axes.logX(), runsBackwards(alongX.x, alongX.y));
+    content.y =
+        axisOf(axes.minYValue(), axes.maxYValue(), axes.logY(), runsBackwards(alongY.y, alongY.x));
     content.angles = {std::atan2(double(alongX.y), double(alongX.x)), axes.rotCCW(),
                       axes.thetaRange() < firstRangeInRadians,
                       axes.thetaRange() == signedDegrees || axes.thetaRange() == signedRadians};
+    if (content.isPolar)
+        turnFallingRadius(content);
 }
 
-/// Points keep the unit of the angles under which they were taken.
-bool anglesAreInDegrees(const ZKConvCoordinate *converter, bool otherwise)
+/// Points keep the axes under which they were taken, and the unit of their angles.
+void takeConverter(PlotSeries &series, const ZKConvCoordinate *converter,
+                   const PlotContent &content)
 {
+    series.anglesAreInDegrees = content.angles.isInDegrees;
+    if (converter == nullptr || converter->converterType() == convertertype::base)
+        return;
     const auto *polar = dynamic_cast<const ZKConvCoordinatePolar *>(converter);
-    return polar != nullptr ? polar->degreeMode() : otherwise;
+    series.hasOtherAxes = (polar != nullptr) != content.isPolar;
+    if (polar != nullptr)
+        series.anglesAreInDegrees = polar->degreeMode();
 }
 
 PlotSeries seriesOf(const MyDocument &document, int index)
@@ -67,8 +108,7 @@ PlotContent plotfacts::of(const MyDocument &document)
     const DataSeries &data = document.dataSeries();
     for (const int index : data.validSeries()) {
         content.series.push_back(seriesOf(document, index));
-        content.series.back().anglesAreInDegrees =
-            anglesAreInDegrees(data.converterOf(index).get(), content.angles.isInDegrees);
+        takeConverter(content.series.back(), data.converterOf(index).get(), content);
     }
     return content;
 }

@@ -13,7 +13,7 @@ struct PlotAxis
     double first = 0; ///< the values at its ends; at the centre of polar axes
     double last = 1;
     bool isLogarithmic = false;
-    bool isReversed = false; ///< values grow to the left, or downwards
+    bool isReversed = false; ///< values grow to the left, or downwards; never so of a radius
 
     friend bool operator==(const PlotAxis &, const PlotAxis &) = default;
 };
@@ -49,6 +49,7 @@ struct PlotSeries
     int shape = 0;        ///< 0 filled square, 1 open square, 2 filled circle, 3 open circle
     int drawMode = 0;     ///< 0 markers, 1 markers and lines, 2 lines
     bool anglesAreInDegrees = true;
+    bool hasOtherAxes = false; ///< taken under polar axes and shown on others, or the reverse
     std::vector<PlotPoint> points;
 
     friend bool operator==(const PlotSeries &, const PlotSeries &) = default;

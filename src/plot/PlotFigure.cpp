@@ -48,12 +48,13 @@ plotticks::Range rangeFor(const PlotAxis &axis, const Extent &data)
     all.include(data.high);
     if (all.isEmpty())
         all = {0, 1};
-    if (!(all.low < all.high)) {
+    const double apart = all.high / 8 - all.low / 8;
+    // The least doubles may lie apart by less than can be divided.
+    if (!(apart > 0)) {
         const double room = axis.isLogarithmic ? 1 : std::max(1.0, std::fabs(all.low) / 10);
         all = {all.low - room, all.high + room};
     } else {
-        const double step =
-            axis.isLogarithmic ? 1 : gridvalues::stepOfAtLeast(all.high / 8 - all.low / 8).length();
+        const double step = axis.isLogarithmic ? 1 : gridvalues::stepOfAtLeast(apart).length();
         if (ends.isEmpty() || all.low < ends.low)
             all.low = std::floor(all.low / step) * step;
         if (ends.isEmpty() || all.high > ends.high)
@@ -67,6 +68,8 @@ Extent extentOf(const std::vector<PlotSeries> &series, const PlotAxis &axis,
 {
     Extent extent;
     for (const PlotSeries &one : series) {
+        if (one.hasOtherAxes)
+            continue;
         for (const PlotPoint &point : one.points)
             extent.include(unitsOf(point.*component, axis.isLogarithmic));
     }
@@ -95,11 +98,13 @@ void addSeries(PlotFigure &figure, const PlotSeries &series, const Place &place)
 {
     PlotFigureSeries shown{series.name,      series.shortName, series.color,    series.size,
                            series.thickness, series.shape,     series.drawMode, {}};
-    shown.points.reserve(series.points.size());
-    for (const PlotPoint &point : series.points) {
-        const QPointF there = place(point);
-        if (std::isfinite(there.x()) && std::isfinite(there.y()))
-            shown.points.push_back(there);
+    if (!series.hasOtherAxes) {
+        shown.points.reserve(series.points.size());
+        for (const PlotPoint &point : series.points) {
+            const QPointF there = place(point);
+            if (std::isfinite(there.x()) && std::isfinite(there.y()))
+                shown.points.push_back(there);
+        }
     }
     figure.pointCount += static_cast<int>(shown.points.size());
     figure.leftOutCount += static_cast<int>(series.points.size() - shown.points.size());

@@ -142,3 +142,28 @@ TEST(PlotFigure, aLogarithmicRadiusBeginsAtTheCentre)
     content.y = {1, 100, true, false};
     expectAt(plotfigure::of(content), 0, 0.5, 0);
 }
+
+TEST(PlotFigure, theLeastValuesHavePlaces)
+{
+    constexpr double least = std::numeric_limits<double>::denorm_min();
+    PlotContent content = samplecontent::linear({{least, 2 * least}, {3 * least, 5}});
+    content.x = {least, 3 * least, false, false};
+    content.y = {least, 2 * least, false, false};
+    const PlotFigure figure = plotfigure::of(content);
+    expectAt(figure, 0, 0.5, 0);
+    expectAt(figure, 1, 0.5, 1);
+    content.y = {0, 40 * least, false, false};
+    EXPECT_EQ(plotfigure::of(content).pointCount, 2);
+}
+
+TEST(PlotFigure, pointsOfOtherAxesAreLeftOutAndLeaveTheRangeAlone)
+{
+    PlotContent content = samplecontent::linear({{500, 500}, {2, 2}});
+    content.series[0].hasOtherAxes = true;
+    content.series.push_back(samplecontent::series({{5, 2}}));
+    const PlotFigure figure = plotfigure::of(content);
+    EXPECT_EQ(figure.pointCount, 1);
+    EXPECT_EQ(figure.leftOutCount, 2);
+    EXPECT_TRUE(figure.series[0].points.empty());
+    EXPECT_EQ(figure.series[1].points[0], QPointF(0.5, 0.2));
+}
