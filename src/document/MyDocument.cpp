@@ -28,6 +28,8 @@
 #include "ui_MyDocument.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QScreen>
 
 #include <utility>
@@ -141,6 +143,16 @@ void MyDocument::wire()
     m_cursorGuide->awakeFromNib();
     m_graphView->awakeFromNib();
     m_currentAxes->replaceAxisDisplay();
+
+    // After the components have taken over what their controls say. How series are drawn and sorted
+    // is no change of the document; the axes count theirs, but leave it to others to show them.
+    connect(ui.markerDrawPopup, &QComboBox::activated, this, &MyDocument::showsChanged);
+    connect(ui.sortCheck, &QCheckBox::clicked, this, &MyDocument::showsChanged);
+    connect(this, &MyDocument::edited, this, [this] {
+        showsChanged();
+        if (m_graphView->showsAxisGrid())
+            m_graphView->setNeedsDisplay();
+    });
 }
 
 CurvegrabPrefs &MyDocument::prefs() const { return m_services.prefs(); }

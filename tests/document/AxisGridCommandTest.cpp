@@ -1,6 +1,11 @@
 #include "document/TestDocument.h"
+#include "platform/TextField.h"
+
+#include <QCheckBox>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -11,6 +16,37 @@ void pressKeys(TestDocument &test)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     QTest::keyClick(&test.document->graphView(), Qt::Key_G, Qt::ControlModifier);
     test.endEvent();
+}
+
+/// Counts the times that a widget was painted.
+class Paintings final : public QObject
+{
+public:
+    explicit Paintings(QWidget &widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return false;
+    }
+
+    int count = 0;
+};
+
+/// Whether the picture is painted by itself after a change of the axes.
+bool isPaintedAfter(TestDocument &test, const std::function<void()> &change)
+{
+    QCoreApplication::processEvents();
+    const Paintings paintings(test.document->graphView());
+    change();
+    return QTest::qWaitFor([&paintings] { return paintings.count > 0; }, 1000);
+}
+
+void typeInto(TextField &field, const QString &text)
+{
+    field.selectAll();
+    QTest::keyClicks(&field, text);
+    QTest::keyClick(&field, Qt::Key_Return);
 }
 
 QImage shown(const TestDocument &test) { return test.document->graphView().grab().toImage(); }
@@ -52,4 +88,21 @@ TEST(AxisGridCommand, isNoPartOfTheDocument)
     pressKeys(test);
     EXPECT_FALSE(test.document->isDocumentEdited());
     EXPECT_TRUE(*test.document->dataOfType({}) == before);
+}
+
+TEST(AxisGridCommand, theGridFollowsTypedAxisValues)
+{
+    TestDocument test;
+    pressKeys(test);
+    const QImage before = shown(test);
+    EXPECT_TRUE(
+        isPaintedAfter(test, [&test] { typeInto(*test.ui().maxXTextField, QStringLiteral("7")); }));
+    EXPECT_NE(shown(test), before);
+}
+
+TEST(AxisGridCommand, theGridFollowsLogarithmicAxes)
+{
+    TestDocument test;
+    pressKeys(test);
+    EXPECT_TRUE(isPaintedAfter(test, [&test] { test.ui().logXCheck->click(); }));
 }

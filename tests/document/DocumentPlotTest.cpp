@@ -1,9 +1,13 @@
+#include "capture/DataSeries.h"
 #include "document/TestDocument.h"
 #include "plot/PlotFigure.h"
 #include "plot/PlotView.h"
 #include "plot/PlotWindow.h"
 
 #include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 
 #include <gtest/gtest.h>
@@ -84,6 +88,60 @@ TEST_F(DocumentPlotTest, followsTheAxes)
     EXPECT_TRUE(changesFrom(parallel));
 }
 
+TEST_F(DocumentPlotTest, followsTypedAxisValues)
+{
+    m_test.command("showResult");
+    const QImage before = picture();
+    m_test.ui().maxXTextField->selectAll();
+    QTest::keyClicks(m_test.ui().maxXTextField, QStringLiteral("7"));
+    QTest::keyClick(m_test.ui().maxXTextField, Qt::Key_Return);
+    EXPECT_TRUE(changesFrom(before));
+}
+
+TEST_F(DocumentPlotTest, followsLogarithmicAxes)
+{
+    m_test.command("showResult");
+    const QImage before = picture();
+    m_test.ui().logXCheck->click();
+    EXPECT_TRUE(changesFrom(before));
+}
+
+TEST_F(DocumentPlotTest, followsTheRangeAndTheSenseOfAngles)
+{
+    m_test.command("choosePolarAxes");
+    m_test.command("showResult");
+    const QImage before = picture();
+    QTest::keyClick(m_test.ui().thetaRangePopup, Qt::Key_Down);
+    ASSERT_TRUE(changesFrom(before));
+    const QImage withOtherRange = picture();
+    m_test.ui().rotDirRadio->button(1)->click();
+    EXPECT_TRUE(changesFrom(withOtherRange));
+}
+
+TEST_F(DocumentPlotTest, followsTheMarkersOfASeries)
+{
+    m_test.digitize();
+    m_test.click(120, 100);
+    m_test.command("showResult");
+    const QImage before = picture();
+    QTest::keyClick(m_test.ui().markerDrawPopup, Qt::Key_Down);
+    EXPECT_TRUE(changesFrom(before));
+}
+
+TEST_F(DocumentPlotTest, followsSorting)
+{
+    m_test.digitize();
+    m_test.ui().sortCheck->setChecked(false);
+    m_test.document->dataSeries().setDrawLines();
+    m_test.click(120, 100);
+    m_test.click(300, 300);
+    m_test.click(200, 100);
+    m_test.command("showResult");
+    const QImage before = picture();
+    m_test.ui().sortCheck->click();
+    EXPECT_TRUE(changesFrom(before));
+}
+
 TEST_F(DocumentPlotTest, followsTheStyleOfASeries)
 {
     m_test.digitize();
@@ -107,6 +165,15 @@ TEST_F(DocumentPlotTest, catchesUpWhenItIsShownAgain)
     m_test.command("showResult");
     EXPECT_TRUE(isShown());
     EXPECT_TRUE(note().isEmpty());
+}
+
+TEST_F(DocumentPlotTest, opensItsPageOfTheHelpByF1)
+{
+    m_test.command("showResult");
+    plot()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(plot()));
+    QTest::keyClick(plot(), Qt::Key_F1);
+    EXPECT_EQ(m_test.services.help.opened, QStringList({QStringLiteral("Curvegrab X Help#plot")}));
 }
 
 TEST_F(DocumentPlotTest, goesWithTheDocument)
