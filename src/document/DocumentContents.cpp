@@ -7,6 +7,7 @@
 #include "imageview/ArchivedPicture.h"
 #include "imageview/PictureMemory.h"
 #include "platform/GeometryText.h"
+#include "platform/NumberText.h"
 #include "platform/Texts.h"
 
 namespace {
@@ -43,6 +44,20 @@ std::optional<DocumentContents::PictureFacts> pictureFrom(const ArchiveDictionar
     return DocumentContents::PictureFacts{*size, view->floatForKey("Rotation Angle")};
 }
 
+/// The index of one of `count` choices; a choice that is not there leaves the first one chosen.
+int choiceOf(int number, int count) { return number >= 0 && number < count ? number : 0; }
+
+/// As a window shows the axes when it has opened the document.
+void showAxes(DocumentContents::Axes &axes)
+{
+    constexpr int axisTypes = 3;
+    constexpr int thetaRanges = 4;
+    axes.type = choiceOf(axes.type, axisTypes);
+    axes.thetaRange = choiceOf(axes.thetaRange, thetaRanges);
+    for (double *value : {&axes.minX, &axes.maxX, &axes.minY, &axes.maxY})
+        *value = numbertext::asShown(*value);
+}
+
 } // namespace
 
 DocumentContents DocumentContents::fromRoot(const ArchiveDictionary &root)
@@ -65,6 +80,8 @@ ReadDocumentFile readDocument(const QByteArray &bytes)
     ReadDocumentFile result{{}, documentarchive::description(reading.damages)};
     if (reading.isWhole() || !reading.root.entries().empty())
         result.contents = DocumentContents::fromRoot(reading.root);
+    if (result.contents)
+        showAxes(result.contents->axes);
     return result;
 }
 

@@ -50,7 +50,8 @@ struct ReadDocumentFile
     QString error;
 };
 
-/// Reads a document from the bytes of its file. A damaged one gives what is left, and an error.
+/// Reads a document from the bytes of its file, with the axes that a window would show. A damaged
+/// one gives what is left, and an error.
 [[nodiscard]] ReadDocumentFile readDocument(const QByteArray &bytes);
 
 /// The same from the file at `path`.

@@ -37,6 +37,8 @@ std::string withoutLeadingBlanks(const QString &text)
 
 std::string general(double value) { return generalformat::general(value); }
 
+double asShown(double value) { return doubleValue(QString::fromStdString(general(value))); }
+
 std::string general(double value, int digits)
 {
     return formatted(value, std::chars_format::general, digits);

@@ -10,6 +10,9 @@ namespace numbertext {
 /// "%g": six significant digits, ties to even, minus zero kept ("-0").
 [[nodiscard]] std::string general(double value);
 
+/// The number that a field holds when it is shown there: six digits are left of it.
+[[nodiscard]] double asShown(double value);
+
 /// "%.<digits>g".
 [[nodiscard]] std::string general(double value, int digits);
 

@@ -1,4 +1,5 @@
 #include "app/ConsoleFixture.h"
+#include "axes/CurrentAxes.h"
 #include "capture/DataSeries.h"
 #include "document/TestDocument.h"
 
@@ -178,6 +179,25 @@ TEST_F(ExportCommand, jsonTellsThePictureTheAxesAndTheConverters)
     const QJsonObject series = object["series"].toArray()[0].toObject();
     EXPECT_EQ(series["converter"].toObject()["kind"].toString(), "polar");
     EXPECT_EQ(series["quantities"].toArray(), QJsonArray({"theta", "r"}));
+}
+
+TEST_F(ExportCommand, jsonHasTheAxisValuesThatAWindowShows)
+{
+    ArchiveDictionary root = sampleroots::root(sampleroots::Kind::Parallel, 1);
+    ArchiveDictionary axes = *root.dictionaryForKey(documentkeys::currentAxesData);
+    axes.set("Min X Value", {0.123456789});
+    axes.set("Max X Value", {1e7 / 3});
+    axes.set("Axis Type", sampleroots::integer(7));
+    root.set(documentkeys::currentAxesData, {axes});
+    run({"--export", "-", "--format", "json", writeDocument("a.crvgrab", root)});
+    const QJsonObject object = QJsonDocument::fromJson(out()).object()["axes"].toObject();
+
+    const TestDocument window;
+    CurrentAxes &shown = window.document->currentAxes();
+    ASSERT_TRUE(shown.loadFromData(&axes));
+    EXPECT_EQ(object["x"].toObject()["minimum"].toDouble(), shown.minXValue());
+    EXPECT_EQ(object["x"].toObject()["maximum"].toDouble(), shown.maxXValue());
+    EXPECT_EQ(object["kind"].toString(), QStringLiteral("parallel"));
 }
 
 TEST_F(ExportCommand, aWorkbookIsWrittenWholeAlsoToStandardOutput)

@@ -55,6 +55,13 @@ TEST(NumberText, generalHasSixSignificantDigits)
     EXPECT_EQ(numbertext::general(1e-300), "1e-300");
 }
 
+TEST(NumberText, aFieldKeepsSixDigitsOfWhatItShows)
+{
+    EXPECT_EQ(numbertext::asShown(0.1 + 0.2), 0.3);
+    EXPECT_EQ(numbertext::asShown(-1234567.8), -1.23457e6);
+    EXPECT_EQ(numbertext::asShown(std::numeric_limits<double>::infinity()), 0);
+}
+
 TEST(NumberText, tiesGoToTheEvenDigit)
 {
     EXPECT_EQ(numbertext::general(123456.5), "123456");
