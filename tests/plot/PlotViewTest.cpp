@@ -6,14 +6,12 @@
 #include "plot/SampleContent.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 namespace {
 
@@ -170,23 +168,4 @@ TEST_F(PlotViewTest, showsAnythingWithoutHarm)
             }
         }
     }
-}
-
-TEST_F(PlotViewTest, staysQuickWithTenTimesTenThousandPoints)
-{
-    std::mt19937 random(7);
-    std::uniform_real_distribution<double> value(0, 10);
-    PlotContent content = samplecontent::linear({});
-    content.series.clear();
-    for (int i = 0; i < 10; ++i) {
-        std::vector<PlotPoint> points;
-        for (int k = 0; k < 10000; ++k)
-            points.push_back({k / 1000.0, value(random)});
-        content.series.push_back(samplecontent::series(std::move(points)));
-        content.series.back().drawMode = 1;
-    }
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_FALSE(shown(content).isNull());
-    EXPECT_LT(timer.elapsed(), 20'000);
 }
