@@ -68,6 +68,8 @@ ChartPlotView::ChartPlotView(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_chartView);
     m_chartView->setRenderHint(QPainter::Antialiasing);
+    // Around the chart too, whatever the colours of the desktop.
+    m_chartView->scene()->setBackgroundBrush(Qt::white);
     m_chartView->setFrameShape(QFrame::NoFrame);
     m_chartView->setFocusPolicy(Qt::NoFocus);
     makeChart();

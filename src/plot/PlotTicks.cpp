@@ -20,9 +20,11 @@ constexpr double longestPower = 3;
 /// With fewer decades some lines between them have labels too.
 constexpr int fewDecades = 3;
 
+constexpr QChar minusSign(u'−');
+
 QString text(double value, int digits)
 {
-    return QString::fromStdString(numbertext::general(value, digits));
+    return QString::fromStdString(numbertext::general(value, digits)).replace(u'-', minusSign);
 }
 
 /// As many digits as tell neighbouring ticks apart.
@@ -70,17 +72,15 @@ QString labelOfAngle(int twelfths, const PlotAngles &angles)
     int count = twelfths;
     if (angles.isSigned && count > anglesPerTurn / 2)
         count -= anglesPerTurn;
-    const QString minus = QStringLiteral("−");
     if (angles.isInDegrees)
-        return (count < 0 ? minus : QString()) + text(std::abs(count) * degreesPerTick, 6) +
-               QChar(u'°');
+        return text(count * degreesPerTick, 6) + QChar(u'°');
     if (count == 0)
         return QStringLiteral("0");
     // A twelfth of a turn is a sixth of π.
     const int common = std::gcd(std::abs(count), anglesPerTurn / 2);
     const int above = std::abs(count) / common;
     const int below = anglesPerTurn / 2 / common;
-    QString label = count < 0 ? minus : QString();
+    QString label = count < 0 ? QString(minusSign) : QString();
     if (above != 1)
         label += text(above, 6);
     label += QChar(u'π');

@@ -35,7 +35,7 @@ double positionOf(const std::vector<PlotTick> &ticks, const QString &label)
 TEST(PlotTicks, haveRoundValues)
 {
     const std::vector<PlotTick> ticks = plotticks::along({-1, 1, false, false});
-    EXPECT_EQ(labels(ticks), "-1 -0.5 0 0.5 1");
+    EXPECT_EQ(labels(ticks), "−1 −0.5 0 0.5 1");
     EXPECT_EQ(positionOf(ticks, QStringLiteral("0.5")), 0.75);
 }
 
@@ -87,7 +87,7 @@ TEST(PlotTicks, tellNeighboursApart)
 TEST(PlotTicks, ofHugeValuesAreWrittenWithAnExponent)
 {
     EXPECT_EQ(labels(plotticks::along({-1e300, 1e300, false, false})),
-              "-1e+300 -5e+299 0 5e+299 1e+300");
+              "−1e+300 −5e+299 0 5e+299 1e+300");
 }
 
 TEST(PlotTicks, aroundACircleBeginAtTheTop)

@@ -169,3 +169,17 @@ TEST_F(PlotViewTest, showsAnythingWithoutHarm)
         }
     }
 }
+
+TEST_F(PlotViewTest, isWhiteToItsEdges)
+{
+    shown(samplecontent::linear({{5, 5}}));
+    QImage image(m_view->size(), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    {
+        QPainter painter(&image);
+        m_view->drawInto(painter, m_view->rect());
+    }
+    EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(image.width() - 2, image.height() - 2), QColor(Qt::white));
+    EXPECT_EQ(m_view->grab().toImage().pixelColor(1, 1), QColor(Qt::white));
+}
