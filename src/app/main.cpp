@@ -14,6 +14,7 @@
 #include "prefs/CurvegrabPrefs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
@@ -106,7 +107,7 @@ int main(int argc, char **argv)
     UserDefaults defaults(UserDefaults::standardPath());
     CurvegrabPrefs prefs(defaults);
     HelpBookViewer help(
-        defaults,
+        QDir(stateFolder).filePath(QStringLiteral("help.json")),
         [](const QString &command) {
             return commandkeys::ofCommand(command, QApplication::topLevelWidgets());
         },

@@ -7,10 +7,10 @@
 
 #include <QKeySequence>
 
-ApplicationPanels::ApplicationPanels(CurvegrabPrefs &prefs)
+ApplicationPanels::ApplicationPanels(CurvegrabPrefs &prefs, const QString &infoPanelPath)
     : m_prefs(prefs)
     , m_infoPanelController(std::make_unique<InfoPanelController>(
-          static_cast<InfoPanelPrefs &>(*this), m_showHideInfo))
+          static_cast<InfoPanelPrefs &>(*this), m_showHideInfo, infoPanelPath))
 {
     m_showHideInfo.setObjectName(QStringLiteral("showInfoPanel"));
     m_showHideInfo.setProperty("tag", 0);

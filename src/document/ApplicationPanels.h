@@ -22,8 +22,9 @@ class ApplicationPanels final : private PrefsInfoPanel,
                                 public HelpViewer
 {
 public:
-    /// `prefs` outlives the panels; its info panel is theirs.
-    explicit ApplicationPanels(CurvegrabPrefs &prefs);
+    /// `prefs` outlives the panels; its info panel is theirs. Where the info panel stands is
+    /// remembered in the file at `infoPanelPath`.
+    ApplicationPanels(CurvegrabPrefs &prefs, const QString &infoPanelPath);
     ~ApplicationPanels() override;
 
     /// The menu item that shows and hides the info panel.

@@ -28,7 +28,8 @@ DocumentController::DocumentController(CurvegrabPrefs &prefs, const QString &sta
                                        QObject *parent)
     : QObject(parent)
     , m_prefs(prefs)
-    , m_panels(std::make_unique<ApplicationPanels>(prefs))
+    , m_panels(std::make_unique<ApplicationPanels>(
+          prefs, QDir(stateFolder).filePath(QStringLiteral("infopanel.json"))))
     , m_recentFiles(QDir(stateFolder).filePath(QStringLiteral("state.json")))
     , m_recentThumbnails(QDir(stateFolder).filePath(QStringLiteral("thumbnails")))
     , m_exportChoices(QDir(stateFolder).filePath(QStringLiteral("export.json")))

@@ -369,7 +369,7 @@ bool MyDocument::windowShouldClose()
 
 void MyDocument::windowWillClose()
 {
-    rememberWindowSize();
+    rememberWindowPlace();
     m_graphView->windowWillClose();
     m_plot.reset();
     m_recovery->forget();

@@ -287,7 +287,8 @@ private:
     [[nodiscard]] QRect frameWithoutDrawer() const;
     /// Lets the user drag the selected series away as copySelection() would copy them.
     void dragSelection();
-    void rememberWindowSize();
+    void placeNewWindow();
+    void rememberWindowPlace();
     void openOwnPicture();
     /// `openImageFileDidEnd:returnCode:contextInfo:` takes the picture that the user has confirmed.
     void openImageFileDidEnd(const QString &path);

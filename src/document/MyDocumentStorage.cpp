@@ -51,9 +51,7 @@ ArchiveValue integerValue(int value) { return {std::int64_t{value}}; }
 void MyDocument::showWindow()
 {
     firstpaint::whenOver(*this, [this] { pasteboardChanged(); });
-    const QSize size = m_services.sessionMemory().windowSize().value_or(newWindowSize);
-    const QSize room = m_window->screen()->availableGeometry().size();
-    m_window->resize(m_window->minimumSizeHint().expandedTo(size.boundedTo(room)));
+    placeNewWindow();
     if (m_loadedDataDict) {
         windowControllerDidLoadNib();
         m_window->show();
@@ -62,6 +60,20 @@ void MyDocument::showWindow()
     // The frame that a new window gets, and a picture needs, is known only on the screen.
     m_window->show();
     windowControllerDidLoadNib();
+}
+
+// The first window stands where the last one stood; where others go is up to the desktop, and a
+// document that has been saved knows its own place.
+void MyDocument::placeNewWindow()
+{
+    const QSize room = m_window->screen()->availableGeometry().size();
+    const std::optional<QRect> place = m_services.sessionMemory().windowPlace();
+    const QSize size = place ? place->size() : newWindowSize;
+    m_window->resize(m_window->minimumSizeHint().expandedTo(size.boundedTo(room)));
+    if (place && !m_loadedDataDict && m_services.openDocuments().size() <= 1)
+        m_window->move(windowframe::restored({place->topLeft(), m_window->size()},
+                                             m_window->minimumSize(), usableScreens())
+                           .topLeft());
 }
 
 void MyDocument::setFileUrl(const QUrl &url)
@@ -236,16 +248,16 @@ QRect MyDocument::frameWithoutDrawer() const
     return frame;
 }
 
-// Where windows stand is up to the desktop; only their size is worth remembering.
-void MyDocument::rememberWindowSize()
+void MyDocument::rememberWindowPlace()
 {
     if (!m_window->isVisible() && !m_window->isMinimized())
         return;
     const bool fillsScreen = m_window->isMaximized() || m_window->isFullScreen();
-    QSize size = fillsScreen ? m_window->normalGeometry().size() : m_window->size();
-    size.rwidth() -= m_window->ui().dataTableDrawer->widthInWindow();
-    if (!size.isEmpty())
-        m_services.sessionMemory().setWindowSize(size);
+    QRect place = fillsScreen ? m_window->normalGeometry() : m_window->geometry();
+    place.setWidth(place.width() - m_window->ui().dataTableDrawer->widthInWindow());
+    place.moveTopLeft(place.topLeft() - (m_window->geometry().topLeft() - m_window->pos()));
+    if (!place.isEmpty())
+        m_services.sessionMemory().setWindowPlace(place);
 }
 
 void MyDocument::whenOnScreen(std::function<void()> action)

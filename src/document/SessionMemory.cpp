@@ -4,7 +4,7 @@
 
 namespace {
 
-const QString windowSizeKey = QStringLiteral("Window Size");
+const QString windowPlaceKey = QStringLiteral("Document Window");
 
 QString keyOf(PanelFolders::Panel panel)
 {
@@ -27,16 +27,18 @@ SessionMemory::SessionMemory(const QString &path)
     : m_state(path)
 {}
 
-std::optional<QSize> SessionMemory::windowSize() const
+std::optional<QRect> SessionMemory::windowPlace() const
 {
-    const QJsonArray stored = m_state.value(windowSizeKey).toArray();
-    const QSize size(stored.at(0).toInt(), stored.at(1).toInt());
-    return stored.size() == 2 && !size.isEmpty() ? std::optional(size) : std::nullopt;
+    const QJsonArray stored = m_state.value(windowPlaceKey).toArray();
+    const QRect place(stored.at(0).toInt(), stored.at(1).toInt(), stored.at(2).toInt(),
+                      stored.at(3).toInt());
+    return stored.size() == 4 && !place.isEmpty() ? std::optional(place) : std::nullopt;
 }
 
-void SessionMemory::setWindowSize(QSize size)
+void SessionMemory::setWindowPlace(const QRect &place)
 {
-    m_state.remember(QJsonArray{size.width(), size.height()}, windowSizeKey);
+    m_state.remember(QJsonArray{place.x(), place.y(), place.width(), place.height()},
+                     windowPlaceKey);
 }
 
 QString SessionMemory::folderOf(Panel panel) const { return m_state.folder(keyOf(panel)); }

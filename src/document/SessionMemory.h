@@ -3,7 +3,7 @@
 #include "platform/StateFile.h"
 #include "platform/WindowFilePanels.h"
 
-#include <QSize>
+#include <QRect>
 
 #include <optional>
 
@@ -14,9 +14,10 @@ public:
     /// Kept in the file at `path`.
     explicit SessionMemory(const QString &path);
 
-    /// The size of the window without frame and drawer that was closed last, if there was one.
-    [[nodiscard]] std::optional<QSize> windowSize() const;
-    void setWindowSize(QSize size);
+    /// Of the document window that was closed last, if there was one: where the top left corner of
+    /// its frame stood, and its size without frame and drawer.
+    [[nodiscard]] std::optional<QRect> windowPlace() const;
+    void setWindowPlace(const QRect &place);
 
     [[nodiscard]] QString folderOf(Panel panel) const override;
     void setFolderOf(Panel panel, const QString &folder) override;

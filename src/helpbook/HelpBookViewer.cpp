@@ -2,13 +2,12 @@
 
 #include "helpbook/HelpWindow.h"
 #include "platform/Texts.h"
-#include "platform/UserDefaults.h"
 
 #include <utility>
 
-HelpBookViewer::HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand,
+HelpBookViewer::HelpBookViewer(const QString &statePath, HelpBook::KeysOfCommand keysOfCommand,
                                const QString &language)
-    : m_defaults(defaults)
+    : m_state(statePath)
     , m_keysOfCommand(std::move(keysOfCommand))
     , m_folder(QStringLiteral(":/help/") + language)
 {}
@@ -23,6 +22,6 @@ void HelpBookViewer::openHelpAnchor(const QString &anchor, const QString &inBook
     if (m_window == nullptr)
         m_window = std::make_unique<HelpWindow>(
             texts::localized("help.title"),
-            HelpBook(m_folder, m_keysOfCommand, QStringLiteral(":/help/en")), m_defaults);
+            HelpBook(m_folder, m_keysOfCommand, QStringLiteral(":/help/en")), m_state);
     m_window->showAnchor(anchor);
 }

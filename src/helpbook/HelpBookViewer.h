@@ -2,18 +2,19 @@
 
 #include "helpbook/HelpBook.h"
 #include "platform/HelpViewer.h"
+#include "platform/StateFile.h"
 
 #include <memory>
 
 class HelpWindow;
-class UserDefaults;
 
 /// Shows the program's help book in a window of its own, made when it is first wanted.
 class HelpBookViewer final : public HelpViewer
 {
 public:
-    /// `defaults` outlives the viewer. Pages that there are not in `language` are shown in English.
-    HelpBookViewer(UserDefaults &defaults, HelpBook::KeysOfCommand keysOfCommand,
+    /// Remembers the window in the file at `statePath`. Pages that there are not in `language` are
+    /// shown in English.
+    HelpBookViewer(const QString &statePath, HelpBook::KeysOfCommand keysOfCommand,
                    const QString &language = QStringLiteral("en"));
     ~HelpBookViewer() override;
 
@@ -23,7 +24,7 @@ public:
     [[nodiscard]] HelpWindow *window() const { return m_window.get(); }
 
 private:
-    UserDefaults &m_defaults;
+    StateFile m_state;
     HelpBook::KeysOfCommand m_keysOfCommand;
     QString m_folder; ///< of the book in the user's language
     std::unique_ptr<HelpWindow> m_window;

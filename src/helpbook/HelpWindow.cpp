@@ -2,13 +2,13 @@
 
 #include "helpbook/HelpBrowser.h"
 #include "helpbook/HelpFindBar.h"
+#include "platform/StateFile.h"
 #include "platform/Texts.h"
-#include "platform/UserDefaults.h"
+#include "platform/WindowPlacement.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QJsonArray>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -23,7 +23,7 @@
 
 namespace {
 
-const QString sizeKey = QStringLiteral("Help Window Size");
+const QString placementKey = QStringLiteral("Help Window");
 const QString zoomKey = QStringLiteral("Help Text Zoom");
 
 constexpr QSize firstSize(980, 760);
@@ -41,9 +41,9 @@ QList<QKeySequence> keys(std::initializer_list<const char *> texts)
 
 } // namespace
 
-HelpWindow::HelpWindow(const QString &title, HelpBook book, UserDefaults &defaults)
+HelpWindow::HelpWindow(const QString &title, HelpBook book, StateFile &state)
     : m_book(std::move(book))
-    , m_defaults(defaults)
+    , m_state(state)
     , m_contents(new QListWidget)
     , m_page(new HelpBrowser(m_book))
 {
@@ -69,7 +69,7 @@ HelpWindow::HelpWindow(const QString &title, HelpBook book, UserDefaults &defaul
     m_page->setAccessibleName(texts::localized("help.page"));
     connect(m_page, &QTextBrowser::sourceChanged, this, &HelpWindow::pageChanged);
     makeToolBar();
-    restoreSize();
+    restorePlacement();
 }
 
 HelpWindow::~HelpWindow() = default;
@@ -174,27 +174,22 @@ void HelpWindow::setZoom(int steps)
     m_zoom = wanted;
 }
 
-void HelpWindow::restoreSize()
+void HelpWindow::restorePlacement()
 {
-    const auto size = m_defaults.objectForKey(sizeKey);
-    const QJsonArray numbers = size ? size->toArray() : QJsonArray();
-    const QSize remembered(numbers.at(0).toInt(), numbers.at(1).toInt());
-    resize(remembered.isEmpty() ? firstSize : remembered);
-    if (const auto zoom = m_defaults.objectForKey(zoomKey))
-        setZoom(zoom->toInt());
+    resize(firstSize);
+    windowplacement::restore(*this, m_state, placementKey);
+    setZoom(m_state.value(zoomKey).toInt());
 }
 
-void HelpWindow::rememberSize()
+void HelpWindow::rememberPlacement()
 {
-    m_defaults.setObject(QJsonArray{width(), height()}, sizeKey);
-    m_defaults.setObject(m_zoom, zoomKey);
-    // A size that cannot be kept is not worth a message.
-    static_cast<void>(m_defaults.synchronize());
+    windowplacement::remember(*this, m_state, placementKey);
+    m_state.remember(m_zoom, zoomKey);
 }
 
 void HelpWindow::closeEvent(QCloseEvent *event)
 {
-    rememberSize();
+    rememberPlacement();
     QMainWindow::closeEvent(event);
 }
 

@@ -9,16 +9,17 @@ class HelpFindBar;
 class QAction;
 class QListWidget;
 class QToolBar;
-class UserDefaults;
+class StateFile;
 
-/// The window of a help book: contents at the left, the page at the right. It remembers its size.
+/// The window of a help book: contents at the left, the page at the right. It remembers its place
+/// and size, and that of the text.
 class HelpWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// `defaults` outlives the window.
-    HelpWindow(const QString &title, HelpBook book, UserDefaults &defaults);
+    /// `state` outlives the window.
+    HelpWindow(const QString &title, HelpBook book, StateFile &state);
     ~HelpWindow() override;
 
     /// Shows the window in front, at the place called `anchor`, or at the first page.
@@ -37,11 +38,11 @@ private:
                        const QList<QKeySequence> &keys);
     void pageChanged(const QUrl &url);
     void setZoom(int steps);
-    void restoreSize();
-    void rememberSize();
+    void restorePlacement();
+    void rememberPlacement();
 
     const HelpBook m_book;
-    UserDefaults &m_defaults;
+    StateFile &m_state;
     QListWidget *m_contents = nullptr;
     HelpBrowser *m_page = nullptr;
     HelpFindBar *m_findBar = nullptr;

@@ -2,7 +2,9 @@
 
 #include "infopanel/InfoPanelWindow.h"
 #include "platform/FloatingPanel.h"
+#include "platform/StateFile.h"
 #include "platform/Texts.h"
+#include "platform/WindowPlacement.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -16,6 +18,7 @@ InfoPanelController *gInfoPanelController = nullptr;
 
 namespace {
 
+const QString placementKey = QStringLiteral("Info Panel");
 constexpr int distanceFromScreenEdge = 24;
 
 std::optional<InfoFacts> factsOf(const InfoPanelDocument *document)
@@ -33,10 +36,11 @@ const InfoFacts *pointerTo(const std::optional<InfoFacts> &facts)
 } // namespace
 
 InfoPanelController::InfoPanelController(InfoPanelPrefs &prefs, QAction &showHideMenu,
-                                         QObject *parent)
+                                         QString statePath, QObject *parent)
     : QObject(parent)
     , m_prefs(prefs)
     , m_showHideMenu(&showHideMenu)
+    , m_statePath(std::move(statePath))
     , m_imageInfo(infotexts::imageInfo(nullptr))
     , m_axisInfo(infotexts::axisTexts(nullptr))
     , m_dataInfo(infotexts::dataInfo(nullptr))
@@ -81,17 +85,24 @@ void InfoPanelController::setIsVisible(bool visible)
     }
 }
 
-// In the corner of the screen it is least in the way; from then on it stays where the user
-// moves it.
+// In the corner of the screen it is least in the way, until the user moves it elsewhere.
 void InfoPanelController::placeAtFirst()
 {
     if (m_isPlaced)
         return;
     m_isPlaced = true;
+    if (windowplacement::restore(infoPanel(), StateFile(m_statePath), placementKey))
+        return;
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QPoint distance(distanceFromScreenEdge, 2 * distanceFromScreenEdge);
     const QSize size = infoPanel().sizeHint();
     infoPanel().move(screen.bottomRight() - distance - QPoint(size.width(), size.height()));
+}
+
+void InfoPanelController::rememberPlace()
+{
+    StateFile state(m_statePath);
+    windowplacement::remember(*m_infoPanel, state, placementKey);
 }
 
 void InfoPanelController::showInfoPanel()
@@ -130,6 +141,8 @@ bool InfoPanelController::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Close && watched == m_infoPanel.get() &&
         (!event->spontaneous() || windowShouldClose()))
         windowWillClose();
+    if (event->type() == QEvent::Hide && watched == m_infoPanel.get())
+        rememberPlace();
     return QObject::eventFilter(watched, event);
 }
 

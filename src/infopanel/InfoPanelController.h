@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QString>
 
 #include <memory>
 
@@ -20,7 +21,9 @@ class InfoPanelController : public QObject
 
 public:
     /// `prefs` outlives the controller; `showHideMenu` is the item that shows and hides the panel.
-    InfoPanelController(InfoPanelPrefs &prefs, QAction &showHideMenu, QObject *parent = nullptr);
+    /// Where the panel stands is remembered in the file at `statePath`.
+    InfoPanelController(InfoPanelPrefs &prefs, QAction &showHideMenu, QString statePath,
+                        QObject *parent = nullptr);
     ~InfoPanelController() override;
 
     /// Makes this controller the application's (gInfoPanelController).
@@ -54,12 +57,14 @@ protected:
 
 private:
     void placeAtFirst();
+    void rememberPlace();
     void setImageInfo(const InfoFacts *facts);
     void setAxisInfo(const InfoFacts *facts);
     void setDataInfo(const InfoFacts *facts);
 
     InfoPanelPrefs &m_prefs;
     QPointer<QAction> m_showHideMenu;
+    QString m_statePath;
     std::unique_ptr<InfoPanelWindow> m_infoPanel; // null until it is needed
     QString m_imageInfo;
     infotexts::AxisTexts m_axisInfo;

@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize firstSize(640, 520);
@@ -59,6 +61,19 @@ PlotWindow::PlotWindow(PlotModule &module, PlotChoices &choices)
 }
 
 QSize PlotWindow::sizeHint() const { return firstSize; }
+
+void PlotWindow::setVisible(bool visible)
+{
+    if (visible && !std::exchange(m_isPlaced, true))
+        m_choices.placeWindow(*this);
+    QWidget::setVisible(visible);
+}
+
+void PlotWindow::hideEvent(QHideEvent *event)
+{
+    m_choices.rememberPlaceOf(*this);
+    QWidget::hideEvent(event);
+}
 
 void PlotWindow::setDialogs(Sheets &sheets, FilePanels &panels)
 {

@@ -36,6 +36,10 @@ public:
     [[nodiscard]] PlotView *view() const { return m_view; }
 
     [[nodiscard]] QSize sizeHint() const override;
+    void setVisible(bool visible) override;
+
+protected:
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void makeView();
@@ -52,5 +56,6 @@ private:
     PlotView *m_view = nullptr; // child
     QLabel *m_note;
     QPushButton *m_saveButton;
-    QString m_title; ///< of what is shown
+    QString m_title;         ///< of what is shown
+    bool m_isPlaced = false; ///< it was shown once, and stands where the user left it
 };

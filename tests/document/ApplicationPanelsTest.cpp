@@ -36,7 +36,8 @@ protected:
     QString m_path = m_folder.filePath(QStringLiteral("settings.json"));
     UserDefaults m_defaults{m_path};
     CurvegrabPrefs m_prefs{m_defaults};
-    std::unique_ptr<ApplicationPanels> m_panels = std::make_unique<ApplicationPanels>(m_prefs);
+    std::unique_ptr<ApplicationPanels> m_panels = std::make_unique<ApplicationPanels>(
+        m_prefs, m_folder.filePath(QStringLiteral("infopanel.json")));
 };
 
 } // namespace

@@ -40,7 +40,9 @@ protected:
 private:
     NoPrefs m_prefs;
     QAction m_item;
-    InfoPanelController m_controller{m_prefs, m_item};
+    QTemporaryDir m_folder;
+    InfoPanelController m_controller{m_prefs, m_item,
+                                     m_folder.filePath(QStringLiteral("infopanel.json"))};
 };
 
 void postPrefsChanged(TestDocument &test)

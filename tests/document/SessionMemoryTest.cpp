@@ -4,7 +4,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -33,14 +35,14 @@ private:
 TEST_F(SessionMemoryTest, beginsWithoutAnything)
 {
     const SessionMemory memory(path());
-    EXPECT_FALSE(memory.windowSize());
+    EXPECT_FALSE(memory.windowPlace());
     EXPECT_EQ(memory.folderOf(Panel::OpenFiles), QString());
 }
 
-TEST_F(SessionMemoryTest, keepsTheWindowSizeForTheNextSession)
+TEST_F(SessionMemoryTest, keepsTheWindowPlaceForTheNextSession)
 {
-    SessionMemory(path()).setWindowSize({900, 700});
-    EXPECT_EQ(SessionMemory(path()).windowSize(), QSize(900, 700));
+    SessionMemory(path()).setWindowPlace({-40, 30, 900, 700});
+    EXPECT_EQ(SessionMemory(path()).windowPlace(), QRect(-40, 30, 900, 700));
 }
 
 TEST_F(SessionMemoryTest, keepsTheFolderOfEveryKindOfPanel)
@@ -62,10 +64,11 @@ TEST_F(SessionMemoryTest, aFolderThatIsGoneCountsAsNone)
 
 TEST_F(SessionMemoryTest, nonsenseInTheFileCountsAsNothing)
 {
-    for (const char *json : {"{\"Window Size\": [900]}", "{\"Window Size\": \"large\"}",
-                             "{\"Window Size\": [-5, 700]}", "{\"Window Size\": [900, 700, 1]}"}) {
+    for (const char *json : {R"({"Document Window": [900]})", R"({"Document Window": "large"})",
+                             R"({"Document Window": [0, 0, -5, 700]})",
+                             R"({"Document Window": [0, 0, 900, 700, 1]})"}) {
         put(json);
-        EXPECT_FALSE(SessionMemory(path()).windowSize()) << json;
+        EXPECT_FALSE(SessionMemory(path()).windowPlace()) << json;
     }
 }
 
@@ -94,15 +97,36 @@ TEST(WindowSize, theDrawerIsLeftOut)
         test.document->window().size() - QSize(test.ui().dataTableDrawer->widthInWindow(), 0);
     EXPECT_LT(size.width(), test.document->window().width());
     test.document->performClose();
-    EXPECT_EQ(test.services.sessionMemory().windowSize(), size);
+    EXPECT_EQ(test.services.sessionMemory().windowPlace()->size(), size);
 }
 
 TEST(WindowSize, aSizeTooSmallForTheControlsIsRaised)
 {
     TestDocument test(QSize{});
-    test.services.sessionMemory().setWindowSize({20, 20});
+    test.services.sessionMemory().setWindowPlace({0, 0, 20, 20});
     MyDocument next(test.services);
     next.showWindow();
     EXPECT_GE(next.window().width(), next.window().minimumWidth());
     EXPECT_GE(next.window().height(), next.window().minimumHeight());
+}
+
+TEST(WindowPlace, theNextFirstWindowStandsWhereTheLastOneStood)
+{
+    TestDocument test(QSize{});
+    const QPoint place =
+        test.document->window().screen()->availableGeometry().topLeft() + QPoint(53, 47);
+    test.document->window().move(place);
+    test.document->performClose();
+    MyDocument next(test.services);
+    next.showWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next.window().pos() == place; }));
+}
+
+TEST(WindowPlace, thatIsOnNoScreenIsBroughtOntoOne)
+{
+    TestDocument test(QSize{});
+    test.services.sessionMemory().setWindowPlace({90'000, 90'000, 700, 500});
+    MyDocument next(test.services);
+    next.showWindow();
+    EXPECT_TRUE(next.window().screen()->geometry().contains(next.window().pos()));
 }

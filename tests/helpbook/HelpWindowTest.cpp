@@ -2,7 +2,7 @@
 
 #include "helpbook/HelpBookViewer.h"
 #include "helpbook/SampleBook.h"
-#include "platform/UserDefaults.h"
+#include "platform/StateFile.h"
 #include "support/ControlNames.h"
 
 #include <QAction>
@@ -22,14 +22,14 @@ class HelpWindowTest : public ::testing::Test
 {
 protected:
     HelpWindowTest()
-        : m_defaults(m_folder.filePath(QStringLiteral("settings.json")))
+        : m_state(m_folder.filePath(QStringLiteral("help.json")))
     {
         makeWindow();
     }
 
     void makeWindow()
     {
-        window = std::make_unique<HelpWindow>(QStringLiteral("Help"), m_sample.book(), m_defaults);
+        window = std::make_unique<HelpWindow>(QStringLiteral("Help"), m_sample.book(), m_state);
     }
 
     void show(const QString &anchor = {})
@@ -60,7 +60,7 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-    UserDefaults m_defaults;
+    StateFile m_state;
     SampleBook m_sample;
 };
 
@@ -197,15 +197,15 @@ TEST_F(HelpWindowTest, keysMakeTheTextLargerSmallerAndNormal)
     EXPECT_EQ(page()->font().pointSizeF(), normal);
 }
 
-TEST_F(HelpWindowTest, sizeAndTextSizeAreRemembered)
+TEST_F(HelpWindowTest, placeSizeAndTextSizeAreRemembered)
 {
     show();
     const double normal = page()->font().pointSizeF();
-    window->resize(801, 602);
+    window->setGeometry(61, 72, 801, 602);
     QTest::keyClick(window.get(), Qt::Key_Plus, Qt::ControlModifier);
     window->close();
     makeWindow();
-    EXPECT_EQ(window->size(), QSize(801, 602));
+    EXPECT_EQ(window->geometry(), QRect(61, 72, 801, 602));
     EXPECT_EQ(page()->font().pointSizeF(), normal + 1);
 }
 
@@ -258,8 +258,7 @@ TEST_F(HelpWindowTest, canBeUsedBesideAPanelThatKeepsTheOthersWaiting)
 TEST(HelpBookViewer, opensTheProgramsBookAtAnAnchor)
 {
     const QTemporaryDir folder;
-    UserDefaults defaults(folder.filePath(QStringLiteral("settings.json")));
-    HelpBookViewer viewer(defaults, {});
+    HelpBookViewer viewer(folder.filePath(QStringLiteral("help.json")), {});
     viewer.openHelpAnchor(QString::fromLatin1(helpbook::digitizing),
                           QString::fromLatin1(helpbook::bookName));
     ASSERT_NE(viewer.window(), nullptr);
@@ -272,8 +271,7 @@ TEST(HelpBookViewer, opensTheProgramsBookAtAnAnchor)
 TEST(HelpBookViewer, knowsNoOtherBook)
 {
     const QTemporaryDir folder;
-    UserDefaults defaults(folder.filePath(QStringLiteral("settings.json")));
-    HelpBookViewer viewer(defaults, {});
+    HelpBookViewer viewer(folder.filePath(QStringLiteral("help.json")), {});
     viewer.openHelpAnchor({}, QStringLiteral("Another Help"));
     EXPECT_EQ(viewer.window(), nullptr);
 }
@@ -281,8 +279,7 @@ TEST(HelpBookViewer, knowsNoOtherBook)
 TEST(HelpBookViewer, keepsOneWindow)
 {
     const QTemporaryDir folder;
-    UserDefaults defaults(folder.filePath(QStringLiteral("settings.json")));
-    HelpBookViewer viewer(defaults, {});
+    HelpBookViewer viewer(folder.filePath(QStringLiteral("help.json")), {});
     viewer.openHelpAnchor({}, QString::fromLatin1(helpbook::bookName));
     const HelpWindow *first = viewer.window();
     viewer.openHelpAnchor(QString::fromLatin1(helpbook::axisSettings),

@@ -9,8 +9,10 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -74,7 +76,9 @@ protected:
 
     RecordedPrefs m_prefs;
     QAction m_item;
-    InfoPanelController m_controller{m_prefs, m_item};
+    QTemporaryDir m_folder;
+    QString m_statePath = m_folder.filePath(QStringLiteral("infopanel.json"));
+    InfoPanelController m_controller{m_prefs, m_item, m_statePath};
     SampleDocument m_document;
 };
 
@@ -84,7 +88,7 @@ TEST_F(InfoPanel, isTheApplicationsWhileItLives)
 {
     EXPECT_EQ(gInfoPanelController, &m_controller);
     {
-        InfoPanelController other(m_prefs, m_item);
+        InfoPanelController other(m_prefs, m_item, m_statePath);
         other.awakeFromNib();
         EXPECT_EQ(gInfoPanelController, &other);
     }
@@ -93,7 +97,7 @@ TEST_F(InfoPanel, isTheApplicationsWhileItLives)
 
 TEST_F(InfoPanel, staysTheApplicationsWhenOneThatNeverWasIsGone)
 {
-    static_cast<void>(InfoPanelController(m_prefs, m_item));
+    static_cast<void>(InfoPanelController(m_prefs, m_item, m_statePath));
     EXPECT_EQ(gInfoPanelController, &m_controller);
 }
 
@@ -335,4 +339,25 @@ TEST_F(InfoPanel, noBareKeyShows)
     const QRegularExpression key(
         QStringLiteral("infopanel\\.|^[A-Z][a-z]+[A-Z0-9][A-Za-z0-9]*(Label|Format)?$"));
     EXPECT_TRUE(shown.filter(key).isEmpty()) << shown.filter(key).join(u' ').toStdString();
+}
+
+TEST_F(InfoPanel, standsWhereItWasLeftInTheLastSession)
+{
+    m_controller.setIsVisible(true);
+    m_controller.infoPanel().move(123, 87);
+    m_controller.setIsVisible(false);
+    InfoPanelController next(m_prefs, m_item, m_statePath);
+    next.setIsVisible(true);
+    EXPECT_EQ(next.infoPanel().pos(), QPoint(123, 87));
+}
+
+TEST_F(InfoPanel, remembersItsPlaceThoughTheProgramEndsWhileItIsShown)
+{
+    auto last = std::make_unique<InfoPanelController>(m_prefs, m_item, m_statePath);
+    last->setIsVisible(true);
+    last->infoPanel().move(123, 87);
+    last.reset();
+    InfoPanelController next(m_prefs, m_item, m_statePath);
+    next.setIsVisible(true);
+    EXPECT_EQ(next.infoPanel().pos(), QPoint(123, 87));
 }

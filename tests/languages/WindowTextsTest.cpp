@@ -328,7 +328,7 @@ TEST_P(WindowTexts, ofThePageChooserFit)
 
 TEST_P(WindowTexts, ofTheHelpFit)
 {
-    HelpBookViewer viewer(m_defaults, {}, GetParam());
+    HelpBookViewer viewer(m_folder.filePath(QStringLiteral("help.json")), {}, GetParam());
     viewer.openHelpAnchor({}, QString::fromLatin1(helpbook::bookName));
     QTest::keyClick(viewer.window(), Qt::Key_F, Qt::ControlModifier);
     expectAllIsShown(*viewer.window());

@@ -160,3 +160,13 @@ TEST_F(PlotWindowTest, withoutTheModuleSaysWhatToDo)
     EXPECT_TRUE(message->text().contains(m_folder.path()));
     EXPECT_FALSE(child<QPushButton>("savePlotButton")->isEnabled());
 }
+
+TEST_F(PlotWindowTest, standsWhereTheLastOneWasLeft)
+{
+    show(samplecontent::linear({{0, 0}, {1, 1}}));
+    m_window->setGeometry(61, 72, 701, 502);
+    m_window->close();
+    make(QStringLiteral(CURVEGRAB_PLOT_MODULE_FOLDER));
+    m_window->show();
+    EXPECT_EQ(m_window->geometry(), QRect(61, 72, 701, 502));
+}
