@@ -207,7 +207,8 @@ void DataTableView::mouseMoveEvent(QMouseEvent *event)
         return;
     m_dragStart.reset();
     m_columnToPress = -1;
-    Q_EMIT selectionDragged();
+    // Not out of this event: while the drag goes on, its window may be closed.
+    QMetaObject::invokeMethod(this, &DataTableView::selectionDragged, Qt::QueuedConnection);
 }
 
 void DataTableView::mouseReleaseEvent(QMouseEvent *event)

@@ -464,7 +464,7 @@ void MyDocument::dragSelection()
     const std::optional<QString> text = m_dataSeries->makeStringForSeries(
         m_dataTableView->selectedColumnIndexes(), m_services.prefs().copyWithTitle());
     if (text)
-        m_services.tableDrag().drag(*m_dataTableView->viewport(), *text);
+        m_services.tableDrag().drag(*text);
 }
 
 void MyDocument::paste()

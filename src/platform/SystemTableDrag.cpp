@@ -2,12 +2,13 @@
 
 #include "platform/TableContent.h"
 
+#include <QCoreApplication>
 #include <QDrag>
-#include <QWidget>
 
-void SystemTableDrag::drag(QWidget &from, const QString &text)
+void SystemTableDrag::drag(const QString &text)
 {
-    auto *const drag = new QDrag(&from); // deletes itself afterwards
+    // The window may close while this goes on; the drag, which deletes itself, outlives it.
+    auto *const drag = new QDrag(QCoreApplication::instance());
     drag->setMimeData(tablecontent::fromText(text).release());
     drag->exec(Qt::CopyAction);
 }

@@ -6,5 +6,5 @@
 class SystemTableDrag final : public TableDrag
 {
 public:
-    void drag(QWidget &from, const QString &text) override;
+    void drag(const QString &text) override;
 };

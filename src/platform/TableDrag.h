@@ -2,8 +2,6 @@
 
 #include <QString>
 
-class QWidget;
-
 /// Lets the user drag tables into other programs.
 class TableDrag
 {
@@ -12,5 +10,5 @@ public:
 
     /// Takes the table, of the form that Clipboard::setTable() has, along with the pointer while
     /// the mouse button is down; returns once it was dropped, or the drag given up.
-    virtual void drag(QWidget &from, const QString &text) = 0;
+    virtual void drag(const QString &text) = 0;
 };

@@ -18,7 +18,11 @@ protected:
     {
         QTest::mousePress(table.viewport(), Qt::LeftButton, modifiers, cell(column));
     }
-    void moveBy(QPoint way, int column) { QTest::mouseMove(table.viewport(), cell(column) + way); }
+    void moveBy(QPoint way, int column)
+    {
+        QTest::mouseMove(table.viewport(), cell(column) + way);
+        QCoreApplication::processEvents(); // a drag begins after the event that starts it
+    }
     void release(int column, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::mouseRelease(table.viewport(), Qt::LeftButton, modifiers, cell(column));
@@ -109,4 +113,15 @@ TEST_F(DataTableDrag, aMoveWithoutAPressDragsNothing)
     click(2);
     moveBy(far, 2);
     EXPECT_EQ(dragged.count(), 0);
+}
+
+TEST_F(DataTableDrag, beginsAfterTheEventThatStartsItSoThatTheTableMayGoMeanwhile)
+{
+    pressAt(2);
+    const QPointF there = cell(2) + far;
+    QMouseEvent move(QEvent::MouseMove, there, table.viewport()->mapToGlobal(there), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(table.viewport(), &move);
+    EXPECT_EQ(dragged.count(), 0);
+    EXPECT_TRUE(dragged.wait());
 }

