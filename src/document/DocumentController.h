@@ -20,13 +20,6 @@ class ApplicationPanels;
 class SystemClipboard;
 class SystemPasteboard;
 
-/// What a program that ended without warning left of a document.
-struct RecoveredDocument
-{
-    std::optional<RecoveryStore::Document> document; ///< with its picture, decoded
-    std::vector<documentarchive::Damage> damages;    ///< what of it cannot be shown
-};
-
 /// The open documents of the application, the menu items that they share, and the services of the
 /// real desktop.
 class DocumentController : public QObject, public DocumentServices
@@ -98,7 +91,9 @@ private:
     void recoveryAnswered(const QStringList &remains, SheetAnswer answer);
     void bringBack(const QString &key);
     void wasBroughtBack(MyDocument &document, const QString &key,
-                        const RecoveredDocument &recovered);
+                        RecoveryStore::Document recovered);
+    void presentDamage(MyDocument &document, const QString &name,
+                       const std::vector<documentarchive::Damage> &damages);
     void refuse(const QString &path, const QString &reason);
     void presentRefusal(const QString &path, const QString &reason);
     /// Runs `action` once no file is being opened any more.

@@ -65,12 +65,14 @@ Content contentOf(const QString &path, std::uint64_t memoryLimit, const std::sto
     }
     try {
         if (!fits(file.size(), memoryLimit) || !readAll(file, content.bytes, memoryLimit, stop))
-            content.error = tooLarge();
+            content.isTooLarge = true;
         else if (file.error() != QFileDevice::NoError)
             content.error = file.errorString();
     } catch (const std::bad_alloc &) {
-        content.error = tooLarge();
+        content.isTooLarge = true;
     }
+    if (content.isTooLarge)
+        content.error = tooLarge();
     if (!content.error.isEmpty())
         content.bytes.clear();
     return content;

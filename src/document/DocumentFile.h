@@ -20,6 +20,7 @@ struct Content
     QByteArray bytes;
     /// Why the file could not be read, in the user's words; empty if all is well.
     QString error;
+    bool isTooLarge = false; ///< that is why
     /// The state of the file that was read.
     std::optional<durablefile::Stamp> stamp;
 };

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace {
@@ -27,17 +28,21 @@ QString identityOf(const QString &path)
 }
 
 /// What a crash left, read whole in any thread.
-RecoveredDocument readRecovered(const QString &key, const std::stop_token &stop,
-                                std::atomic<int> *percentDecoded)
+std::optional<RecoveryStore::Document>
+readRecovered(const QString &key, const std::stop_token &stop, std::atomic<int> *percentDecoded)
 {
-    RecoveredDocument recovered{RecoveryStore::read(key), {}};
-    if (!recovered.document || stop.stop_requested())
+    try {
+        std::optional<RecoveryStore::Document> recovered = RecoveryStore::read(key);
+        if (!recovered || stop.stop_requested())
+            return recovered;
+        documentarchive::Reading reading{std::move(recovered->root), std::move(recovered->damages)};
+        documentfile::decodePicture(reading, picturememory::available(), stop, percentDecoded);
+        recovered->root = std::move(reading.root);
+        recovered->damages = std::move(reading.damages);
         return recovered;
-    documentarchive::Reading reading{std::move(recovered.document->root), {}};
-    documentfile::decodePicture(reading, picturememory::available(), stop, percentDecoded);
-    recovered.document->root = std::move(reading.root);
-    recovered.damages = std::move(reading.damages);
-    return recovered;
+    } catch (const std::bad_alloc &) {
+        return std::nullopt;
+    }
 }
 
 QString titleFor(const char *key, const QString &path)
@@ -229,8 +234,8 @@ void DocumentController::offerRecovered()
     for (const QString &key : remains) {
         if (const auto document = RecoveryStore::readWithoutPicture(key))
             names.append(document->name);
-        else
-            RecoveryStore::remove(key);
+        else if (QFileInfo(key).size() == 0)
+            RecoveryStore::remove(key); // a program ended before it wrote anything
     }
     if (names.isEmpty())
         return;
@@ -265,44 +270,66 @@ void DocumentController::bringBack(const QString &key)
     MyDocument *shown = recovered->path.isEmpty() ? nullptr : documentOf(recovered->path);
     // Newer work on the same file: this becomes a document of its own.
     const bool isApart = shown != nullptr && (shown->isDocumentEdited() || shown->isReading());
-    MyDocument &document = shown != nullptr && !isApart ? *shown : documentForOpening();
+    const bool isShown = shown != nullptr && !isApart;
+    MyDocument &document = isShown ? *shown : documentForOpening();
     const bool isNew = !document.window().isVisible();
+    // A document that is shown already keeps its file if nothing comes of this.
+    const auto giveUp = [this, &document, isNew, isShown] {
+        if (isShown)
+            openingEnded();
+        else
+            giveUpOpening(document, isNew);
+    };
     document.readInBackground(
         recovered->name,
-        [this, &document, key, isApart](const std::stop_token &stop, std::atomic<int> &percent) {
-            RecoveredDocument whole = readRecovered(key, stop, &percent);
-            if (isApart && whole.document) {
-                whole.document->path.clear();
-                whole.document->fileStamp.reset();
+        [this, &document, key, isApart, giveUp, name = recovered->name](
+            const std::stop_token &stop, std::atomic<int> &percent) -> BackgroundWork::Handler {
+            std::optional<RecoveryStore::Document> whole = readRecovered(key, stop, &percent);
+            if (!whole)
+                return [this, name, giveUp] {
+                    giveUp();
+                    presentDamage(documentForMessages(), name, {documentarchive::Damage{}});
+                };
+            if (isApart) {
+                whole->path.clear();
+                whole->fileStamp.reset();
             }
-            return [this, &document, key, whole = std::move(whole)] {
+            return [this, &document, key, whole = std::move(*whole)] {
                 wasBroughtBack(document, key, whole);
             };
         },
-        [this, &document, isNew] { giveUpOpening(document, isNew); });
+        giveUp);
 }
 
-// What was kept goes only once it is kept anew, and not if there is more in it.
+// What was kept goes only once it is kept anew, and not if there is more in it. The file of a
+// document that did not come back whole may have what is missing: it is not to be overwritten.
 void DocumentController::wasBroughtBack(MyDocument &document, const QString &key,
-                                        const RecoveredDocument &recovered)
+                                        RecoveryStore::Document recovered)
 {
-    if (!recovered.document) {
-        giveUpOpening(document, !document.window().isVisible());
-        return;
+    const QString name = recovered.name;
+    const std::vector<documentarchive::Damage> damages = recovered.damages;
+    if (!damages.empty()) {
+        recovered.path.clear();
+        recovered.fileStamp.reset();
     }
-    document.loadRecovered(*recovered.document);
+    document.loadRecovered(std::move(recovered));
     show(document);
-    if (!recovered.damages.empty())
-        document.sheets().present(
-            {texts::localized("document.open.damagedTitle").arg(recovered.document->name),
-             documentarchive::description(recovered.damages),
-             texts::localized("OK"),
-             QString(),
-             {}},
-            {});
+    if (!damages.empty())
+        presentDamage(document, name, damages);
     else
         document.keepSafeNow(key);
     openingEnded();
+}
+
+void DocumentController::presentDamage(MyDocument &document, const QString &name,
+                                       const std::vector<documentarchive::Damage> &damages)
+{
+    document.sheets().present({titleFor("document.open.damagedTitle", name),
+                               documentarchive::description(damages),
+                               texts::localized("OK"),
+                               QString(),
+                               {}},
+                              {});
 }
 
 void DocumentController::refuse(const QString &path, const QString &reason)

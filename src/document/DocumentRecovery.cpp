@@ -6,6 +6,7 @@
 #include "imageview/GraphImageView.h"
 #include "platform/Texts.h"
 
+#include <QPointer>
 #include <QStatusBar>
 
 #include <chrono>
@@ -26,10 +27,7 @@ DocumentRecovery::DocumentRecovery(MyDocument &document, RecoveryStore &store,
     , m_statusBar(statusBar)
     , m_writer(store)
 {
-    connect(&m_writer, &RecoveryWriter::wrote, this, [this](const std::optional<QString> &reason) {
-        if (reason)
-            tellOnce(*reason);
-    });
+    connect(&m_writer, &RecoveryWriter::wrote, this, &DocumentRecovery::wrote);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &DocumentRecovery::keep);
 }
@@ -80,6 +78,32 @@ void DocumentRecovery::keep()
                    view.originalImage(),
                    documentarchive::pictureIn(root),
                    m_replaces});
+}
+
+void DocumentRecovery::wrote(const std::optional<QString> &reason)
+{
+    if (!reason)
+        return;
+    if (m_document.graphView().pictureIsEncoded())
+        tellOnce(*reason);
+    else
+        keepWhenEncoded();
+}
+
+// A disk that has no room for the pixels may have some for the encoded picture.
+void DocumentRecovery::keepWhenEncoded()
+{
+    if (std::exchange(m_awaitsEncoding, true))
+        return;
+    m_document.graphView().encodePicture([self = QPointer(this)] {
+        if (self.isNull())
+            return;
+        self->m_awaitsEncoding = false;
+        if (self->m_document.graphView().pictureIsEncoded())
+            self->keep();
+        else
+            self->tellOnce(texts::localized("document.save.noMemory"));
+    });
 }
 
 void DocumentRecovery::tellOnce(const QString &reason)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <optional>
+
 class MyDocument;
 class QStatusBar;
 class RecoveryStore;
@@ -29,6 +31,8 @@ public:
 
 private:
     void keep();
+    void wrote(const std::optional<QString> &reason);
+    void keepWhenEncoded();
     void tellOnce(const QString &reason);
 
     MyDocument &m_document;
@@ -38,5 +42,6 @@ private:
     QTimer m_timer;
     QString m_key;      ///< empty: nothing is kept
     QString m_replaces; ///< another key, which this document takes the place of; or empty
+    bool m_awaitsEncoding = false;
     bool m_wasTold = false;
 };

@@ -131,6 +131,8 @@ void MyDocument::wire()
     connect(m_dataTableView, &DataTableView::selectedColumnsChanged, this,
             &MyDocument::showsChanged);
     connect(m_dataTableView, &DataTableView::selectionDragged, this, &MyDocument::dragSelection);
+    // What is kept safe since the drag began has the anchors somewhere on their way.
+    connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::changedOn);
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
     connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
     connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);

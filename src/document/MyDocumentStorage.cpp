@@ -117,8 +117,7 @@ void MyDocument::loadRemains(ArchiveDictionary root)
 
 void MyDocument::loadRecovered(RecoveryStore::Document recovered)
 {
-    if (!recovered.path.isEmpty())
-        setFileUrl(QUrl::fromLocalFile(recovered.path));
+    setFileUrl(recovered.path.isEmpty() ? QUrl() : QUrl::fromLocalFile(recovered.path));
     m_fileStamp = recovered.fileStamp;
     loadRemains(std::move(recovered.root));
 }
@@ -331,6 +330,8 @@ void MyDocument::wasSavedTo(const QString &path, const std::optional<durablefile
     m_changeCount = changesSince;
     m_savedStateIsGone = isGone;
     changeCountMoved();
+    // What was kept of them went with what is saved.
+    m_recovery->keepNow();
 }
 
 void MyDocument::wasReadFrom(const QString &path, const std::optional<durablefile::Stamp> &stamp)

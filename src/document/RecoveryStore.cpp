@@ -6,6 +6,7 @@
 #include "document/RecoveryThread.h"
 #include "imageview/ArchivedPicture.h"
 #include "imageview/PictureMemory.h"
+#include "imageview/PictureReader.h"
 #include "imageview/RawPicture.h"
 #include "platform/Texts.h"
 
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <utility>
+#include <variant>
 
 namespace {
 
@@ -63,29 +65,36 @@ std::shared_ptr<const Archivable> encodedPicture(const QByteArray &content)
         std::make_shared<const std::vector<std::byte>>(first, first + content.size()));
 }
 
-/// The picture that was kept in the file at `path`; null if there is none. No bytes stand for one
-/// that is damaged.
-std::shared_ptr<const Archivable> pictureFrom(const QString &path)
+/// The picture that was kept in the file at `path`, or why there is none to be had.
+std::variant<std::shared_ptr<const Archivable>, PictureProblem> pictureFrom(const QString &path)
 {
     if (rawpicture::isRaw(path)) {
-        if (auto picture = rawpicture::read(path, picturememory::available()))
-            return std::make_shared<ArchivedPicture>(*std::move(picture));
-        return encodedPicture({});
+        auto read = rawpicture::read(path, picturememory::available());
+        if (auto *picture = std::get_if<Picture>(&read))
+            return std::make_shared<ArchivedPicture>(std::move(*picture));
+        return std::get<PictureProblem>(read);
     }
-    const QByteArray content = documentfile::contentOf(path, picturememory::available()).bytes;
-    return content.isEmpty() ? nullptr : encodedPicture(content);
+    const documentfile::Content content = documentfile::contentOf(path, picturememory::available());
+    if (content.bytes.isEmpty())
+        return content.isTooLarge ? PictureProblem::TooLarge : PictureProblem::Damaged;
+    return encodedPicture(content.bytes);
 }
 
-void putPicture(ArchiveDictionary &root, const QString &path)
+void putPicture(RecoveryStore::Document &document, const QString &path)
 {
-    const std::shared_ptr<const Archivable> picture = pictureFrom(path);
-    if (picture == nullptr)
+    const auto picture = pictureFrom(path);
+    if (const auto *problem = std::get_if<PictureProblem>(&picture)) {
+        const auto fault = *problem == PictureProblem::TooLarge
+                               ? documentarchive::Fault::PictureTooLarge
+                               : documentarchive::Fault::DamagedPicture;
+        document.damages.push_back({fault, documentkeys::graphImageViewData, 0});
         return;
+    }
     ArchiveDictionary view;
-    if (const auto *stored = root.dictionaryForKey(documentkeys::graphImageViewData))
+    if (const auto *stored = document.root.dictionaryForKey(documentkeys::graphImageViewData))
         view = *stored;
-    view.set(documentkeys::originalImage, {picture});
-    root.set(documentkeys::graphImageViewData, {view});
+    view.set(documentkeys::originalImage, {std::get<0>(picture)});
+    document.root.set(documentkeys::graphImageViewData, {view});
 }
 
 /// Removes the folder that `lock` holds.
@@ -170,6 +179,7 @@ std::optional<RecoveryStore::Document> RecoveryStore::readWithoutPicture(const Q
     document.name = QString::fromStdString(reading.root.stringForKey(nameKey));
     document.fileStamp = stampIn(reading.root);
     document.root = std::move(reading.root);
+    document.damages = std::move(reading.damages);
     return document;
 }
 
@@ -180,7 +190,7 @@ std::optional<RecoveryStore::Document> RecoveryStore::read(const QString &key)
         return std::nullopt;
     const QString pictureName = QString::fromStdString(document->root.stringForKey(pictureKey));
     if (!pictureName.isEmpty())
-        putPicture(document->root, picturePath(key, pictureName));
+        putPicture(*document, picturePath(key, pictureName));
     return document;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archiving/ArchiveTree.h"
+#include "document/DocumentArchive.h"
 #include "platform/DurableFile.h"
 
 #include <QString>
@@ -28,6 +29,8 @@ public:
         QString path;                                ///< of its file; empty if it was never saved
         QString name;                                ///< what the user calls it
         std::optional<durablefile::Stamp> fileStamp; ///< how it knew its file
+        /// What could not be read of it.
+        std::vector<documentarchive::Damage> damages = {};
     };
 
     /// Keeps everything in `folder`, which need not exist yet.

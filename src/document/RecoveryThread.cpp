@@ -1,9 +1,11 @@
 #include "document/RecoveryThread.h"
 
 #include "imageview/ArchivedPicture.h"
+#include "platform/Texts.h"
 
 #include <QFileInfo>
 
+#include <new>
 #include <utility>
 
 RecoveryThread::RecoveryThread(RecoveryWriter &asking)
@@ -68,7 +70,7 @@ void RecoveryThread::run()
         lock.unlock();
         for (const QString &key : removed)
             forget(key);
-        const std::optional<QString> reason = kept ? write(*kept) : std::nullopt;
+        const std::optional<QString> reason = kept ? written(*kept) : std::nullopt;
         lock.lock();
         if (m_asking != nullptr && !m_waiting && m_removed.isEmpty())
             QMetaObject::invokeMethod(
@@ -83,6 +85,16 @@ void RecoveryThread::forget(const QString &key)
     RecoveryStore::remove(key);
     if (m_onDisk.key == key)
         m_onDisk = {};
+}
+
+// Too little memory for a copy must not end the program, whose work is not saved yet.
+std::optional<QString> RecoveryThread::written(const RecoveryWriter::Kept &kept)
+{
+    try {
+        return write(kept);
+    } catch (const std::bad_alloc &) {
+        return texts::localized("document.save.noMemory");
+    }
 }
 
 std::optional<QString> RecoveryThread::write(const RecoveryWriter::Kept &kept)

@@ -36,6 +36,7 @@ private:
     };
 
     void run();
+    [[nodiscard]] std::optional<QString> written(const RecoveryWriter::Kept &kept);
     [[nodiscard]] std::optional<QString> write(const RecoveryWriter::Kept &kept);
     [[nodiscard]] std::optional<QString> writePicture(const RecoveryWriter::Kept &kept);
     [[nodiscard]] std::optional<QString> keepPicture(const RecoveryWriter::Kept &kept,

@@ -1,6 +1,7 @@
 #include "imageview/RawPicture.h"
 
 #include "imageview/PictureMemory.h"
+#include "imageview/PictureReader.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -39,24 +40,27 @@ bool rawpicture::write(const Picture &picture, QIODevice &device)
     return stream.status() == QDataStream::Ok && writer.write(picture.pixels());
 }
 
-std::optional<Picture> rawpicture::read(const QString &path, std::uint64_t memoryLimit)
+std::variant<Picture, PictureProblem> rawpicture::read(const QString &path,
+                                                       std::uint64_t memoryLimit)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
+        return PictureProblem::Damaged;
     QDataStream stream(&file);
     stream.setFloatingPointPrecision(QDataStream::SinglePrecision);
     quint32 begin = 0;
     FloatSize size;
     stream >> begin >> size.width >> size.height;
     if (stream.status() != QDataStream::Ok || begin != signature)
-        return std::nullopt;
+        return PictureProblem::Damaged;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     QImageReader reader(&file, "ppm");
     if (!picturememory::fits(reader, memoryLimit))
-        return std::nullopt;
+        return reader.size().isValid() ? PictureProblem::TooLarge : PictureProblem::Damaged;
     QImage pixels = reader.read();
     if (pixels.isNull())
-        return std::nullopt;
-    return Picture::fromPixels(std::move(pixels), size);
+        return PictureProblem::Damaged;
+    if (auto picture = Picture::fromPixels(std::move(pixels), size))
+        return *std::move(picture);
+    return PictureProblem::Damaged;
 }

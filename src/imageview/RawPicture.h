@@ -5,9 +5,10 @@
 #include <QString>
 
 #include <cstdint>
-#include <optional>
+#include <variant>
 
 class QIODevice;
+enum class PictureProblem;
 
 /// Pictures on the disk as they are in memory, pixel by pixel: large, and written within a moment,
 /// where encoding them takes long.
@@ -19,7 +20,9 @@ namespace rawpicture {
 /// False if `device` does not take it.
 [[nodiscard]] bool write(const Picture &picture, QIODevice &device);
 
-/// Nothing if the file is damaged, or needs more than `memoryLimit` bytes. May run in any thread.
-[[nodiscard]] std::optional<Picture> read(const QString &path, std::uint64_t memoryLimit);
+/// The picture, or why there is none: the file is damaged, or needs more than `memoryLimit` bytes.
+/// May run in any thread.
+[[nodiscard]] std::variant<Picture, PictureProblem> read(const QString &path,
+                                                         std::uint64_t memoryLimit);
 
 } // namespace rawpicture

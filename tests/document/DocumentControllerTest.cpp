@@ -518,6 +518,47 @@ TEST_F(DocumentControllerTest, aRecoveredDocumentNoticesThatItsFileChanged)
     EXPECT_EQ(question->informativeText(), qtTrId("document.save.changedText"));
 }
 
+TEST_F(DocumentControllerTest, aDocumentThatComesBackWithoutItsPictureLeavesItsFileAlone)
+{
+    const QString file = putDocument("chart.crvgrab");
+    leaveUnsaved("chart.crvgrab");
+    ASSERT_TRUE(QFile::remove(path("state/recovery/crashed/1-1.picture")));
+    start({});
+    press(sheetOf(document()), "document.recovery.bringBack");
+    waitUntilRead();
+    QMessageBox *told = sheetOf(document());
+    ASSERT_NE(told, nullptr);
+    EXPECT_EQ(told->text(), qtTrId("document.open.damagedTitle").arg("chart.crvgrab"));
+    press(told, "OK");
+    EXPECT_TRUE(document().fileUrl().isEmpty());
+    EXPECT_TRUE(document().isDocumentEdited());
+    // What is missing may be mended by hand.
+    EXPECT_TRUE(QFile::exists(path("state/recovery/crashed/1.unsaved")));
+}
+
+TEST_F(DocumentControllerTest, aCancelledBringingBackLeavesTheOpenDocumentItsFile)
+{
+    const QString file = putDocument("chart.crvgrab");
+    leaveUnsaved("chart.crvgrab");
+    start({file});
+    press(sheetOf(document()), "document.recovery.bringBack");
+    cancelReading(document());
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_EQ(document().fileUrl().toLocalFile(), file);
+    EXPECT_TRUE(document().fileStamp());
+    EXPECT_TRUE(QFile::exists(path("state/recovery/crashed/1.unsaved")));
+}
+
+TEST_F(DocumentControllerTest, whatACrashLeftAndCannotBeReadIsNotThrownAway)
+{
+    leaveUnsaved("chart.crvgrab");
+    put("state/recovery/crashed/1.unsaved", "no document");
+    put("state/recovery/crashed/2.unsaved", "");
+    start({});
+    EXPECT_TRUE(QFile::exists(path("state/recovery/crashed/1.unsaved")));
+    EXPECT_FALSE(QFile::exists(path("state/recovery/crashed/2.unsaved")));
+}
+
 TEST_F(DocumentControllerTest, aStartAfterAnEndInOrderAsksNothing)
 {
     start({});

@@ -1,9 +1,11 @@
 #include "document/TestDocument.h"
 
+#include "axes/CurrentAxes.h"
 #include "capture/DataSeries.h"
 #include "document/DocumentFile.h"
 #include "document/RecoveryStore.h"
 #include "imageview/ArchivedPicture.h"
+#include "platform/GeometryText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -241,7 +243,7 @@ TEST(DocumentRecovery, aDocumentComesBackToTheSameBytesWhetherThePictureWasEncod
     EXPECT_EQ(later.document->dataOfType({}), test.document->dataOfType({}));
 }
 
-TEST(DocumentRecovery, aDamagedPictureIsToldAndLeftOut)
+TEST(DocumentRecovery, aCutPictureIsDamage)
 {
     TestDocument test{QSize(0, 0)};
     test.document->graphView().replaceImageWithImageRep(largePicture());
@@ -251,9 +253,34 @@ TEST(DocumentRecovery, aDamagedPictureIsToldAndLeftOut)
     ASSERT_TRUE(picture.resize(picture.size() / 2));
     const auto kept = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
     ASSERT_TRUE(kept.has_value());
-    documentarchive::Reading reading{kept->root, {}};
-    documentfile::decodePicture(reading, 1U << 30U);
-    EXPECT_FALSE(reading.isWhole());
+    ASSERT_EQ(kept->damages.size(), 1U);
+    EXPECT_EQ(kept->damages[0].fault, documentarchive::Fault::DamagedPicture);
+}
+
+TEST(DocumentRecovery, anAnchorIsKeptWhereItsDragHasEnded)
+{
+    TestDocument test;
+    QWidget *view = &test.document->graphView();
+    const auto moveTo = [&](int x, int y) { QTest::mouseMove(view, test.widgetPosition(x, y)); };
+    QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, test.widgetPosition(100, 80));
+    moveTo(110, 90);
+    moveTo(120, 95);
+    test.document->keepSafeNow();
+    ASSERT_TRUE(isKept(test.services));
+    moveTo(130, 110);
+    QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, test.widgetPosition(130, 110));
+    const auto anchorKept = [&]() -> std::string {
+        const auto document = RecoveryStore::read(keptFiles(test.services, "*.unsaved").value(0));
+        const auto *axes = document ? document->root.dictionaryForKey("CurrentAxes Data") : nullptr;
+        return axes == nullptr ? std::string() : axes->stringForKey("Anchor Position 1");
+    };
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return anchorKept() ==
+                   geometrytext::stringFromPoint(test.document->currentAxes().anchor1Point());
+        },
+        9000))
+        << anchorKept();
 }
 
 TEST(DocumentRecovery, aWriteThatFailsIsTold)

@@ -184,3 +184,27 @@ TEST_F(RecoveryStoreTest, aFolderThatCannotBeMadeGivesNoKey)
     RecoveryStore store(folder());
     EXPECT_TRUE(store.newKey().isEmpty());
 }
+
+TEST_F(RecoveryStoreTest, aPictureThatIsGoneIsDamageAndNotNoPicture)
+{
+    keepAndCrash(sample());
+    RecoveryStore store(folder());
+    const QString key = store.remains().value(0);
+    RecoveryStore::removePicture(key,
+                                 QFileInfo(key).completeBaseName() + QStringLiteral("-1.picture"));
+    const auto document = RecoveryStore::read(key);
+    ASSERT_TRUE(document.has_value());
+    ASSERT_EQ(document->damages.size(), 1U);
+    EXPECT_EQ(document->damages[0].fault, documentarchive::Fault::DamagedPicture);
+}
+
+TEST_F(RecoveryStoreTest, damageOfTheKeptDocumentItselfIsTold)
+{
+    keepAndCrash(sample());
+    RecoveryStore store(folder());
+    QFile file(store.remains().value(0));
+    ASSERT_TRUE(file.resize(file.size() - 40));
+    const auto document = RecoveryStore::read(file.fileName());
+    ASSERT_TRUE(document.has_value());
+    EXPECT_FALSE(document->damages.empty());
+}

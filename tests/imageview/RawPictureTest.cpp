@@ -1,5 +1,7 @@
 #include "imageview/RawPicture.h"
 
+#include "imageview/PictureReader.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -33,11 +35,20 @@ protected:
     {
         put(picture);
         EXPECT_TRUE(rawpicture::isRaw(path()));
-        const std::optional<Picture> read = rawpicture::read(path(), plenty);
-        ASSERT_TRUE(read);
-        EXPECT_EQ(read->pixels(), picture.pixels());
-        EXPECT_EQ(read->pixels().format(), picture.pixels().format());
-        EXPECT_EQ(read->size(), picture.size());
+        const auto read = rawpicture::read(path(), plenty);
+        ASSERT_TRUE(std::holds_alternative<Picture>(read));
+        const auto &same = std::get<Picture>(read);
+        EXPECT_EQ(same.pixels(), picture.pixels());
+        EXPECT_EQ(same.pixels().format(), picture.pixels().format());
+        EXPECT_EQ(same.size(), picture.size());
+    }
+
+    /// Why there is no picture in the file; nothing if there is one.
+    [[nodiscard]] std::optional<PictureProblem> problem(std::uint64_t memoryLimit = plenty) const
+    {
+        const auto read = rawpicture::read(path(), memoryLimit);
+        const auto *found = std::get_if<PictureProblem>(&read);
+        return found != nullptr ? std::optional(*found) : std::nullopt;
     }
 
     [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("1.picture")); }
@@ -63,14 +74,14 @@ TEST_F(RawPictureTest, cutBytesGiveNoPicture)
     QFile file(path());
     for (qint64 length = file.size() - 1; length > 0; length = length / 3) {
         ASSERT_TRUE(file.resize(length));
-        EXPECT_FALSE(rawpicture::read(path(), plenty)) << length;
+        EXPECT_EQ(problem(), PictureProblem::Damaged) << length;
     }
 }
 
 TEST_F(RawPictureTest, aPictureThatDoesNotFitIsNotRead)
 {
     put(sample(QImage::Format_RGB32));
-    EXPECT_FALSE(rawpicture::read(path(), 100'000));
+    EXPECT_EQ(problem(100'000), PictureProblem::TooLarge);
 }
 
 TEST_F(RawPictureTest, otherFilesAreNotRaw)
@@ -81,7 +92,7 @@ TEST_F(RawPictureTest, otherFilesAreNotRaw)
     file.write("\x89PNG\r\n\x1a\n");
     file.close();
     EXPECT_FALSE(rawpicture::isRaw(path()));
-    EXPECT_FALSE(rawpicture::read(path(), plenty));
+    EXPECT_EQ(problem(), PictureProblem::Damaged);
 }
 
 TEST_F(RawPictureTest, aDeviceThatTakesNothingIsTold)
