@@ -107,6 +107,9 @@ QImage of(const QString &path, const QString &folder, const std::stop_token &sto
     QImage made = documenttypes::isDocument(path) ? ofDocument(path, stop) : ofPicture(path);
     if (!made.isNull() && !stop.stop_requested())
         remember(made, place, name);
+    // The list was cleared meanwhile: nothing of it is to stay.
+    if (stop.stop_requested())
+        QFile::remove(place.filePath(name));
     return made;
 }
 
