@@ -12,6 +12,7 @@
 #include "platform/Texts.h"
 
 #include <QFileInfo>
+#include <QSet>
 #include <QStatusBar>
 
 #include <chrono>
@@ -20,6 +21,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds timeBeforeProgress{500};
+constexpr std::chrono::milliseconds timeBetweenLooks{100};
 
 /// Smaller files are written within a few frames.
 constexpr std::size_t largeFile = 4'000'000;
@@ -29,6 +31,13 @@ std::size_t pictureSizeIn(const ArchiveDictionary &root)
 {
     const auto picture = documentarchive::pictureIn(root);
     return picture == nullptr ? 0 : picture->bytes()->size();
+}
+
+/// Where documents of this program are being written just now: two with one name take turns.
+QSet<QString> &pathsBeingWritten()
+{
+    static QSet<QString> paths;
+    return paths;
 }
 
 QString withName(const char *key, const QString &path)
@@ -49,7 +58,6 @@ DocumentSaving::DocumentSaving(MyDocument &document, const WindowDialogs &dialog
                                QStatusBar &statusBar)
     : m_document(document)
     , m_dialogs(dialogs)
-    , m_statusBar(statusBar)
 {
     m_progress = new SavingProgress(&statusBar);
     statusBar.addPermanentWidget(m_progress);
@@ -59,10 +67,18 @@ DocumentSaving::DocumentSaving(MyDocument &document, const WindowDialogs &dialog
     connect(&m_progressTimer, &QTimer::timeout, this, &DocumentSaving::showProgress);
 }
 
+DocumentSaving::~DocumentSaving()
+{
+    if (m_writing.isWorking())
+        pathsBeingWritten().remove(m_path);
+}
+
 void DocumentSaving::save(Saved saved)
 {
-    if (m_isBusy)
+    if (m_isBusy) {
+        onceMore(saved);
         return;
+    }
     const QString path = m_document.fileUrl().toLocalFile();
     if (path.isEmpty()) {
         saveAs(std::move(saved));
@@ -71,10 +87,27 @@ void DocumentSaving::save(Saved saved)
     const auto &known = m_document.fileStamp();
     const auto present = durablefile::stampOf(path);
     if (!present || present == known)
-        writeTo(path, saved);
+        writeTo({path, present}, saved);
     else
-        askToOverwrite(known ? "document.save.changedText" : "document.save.existsText", path,
-                       saved);
+        askToOverwrite(known ? "document.save.changedText" : "document.save.existsText",
+                       {path, present}, saved);
+}
+
+// What already waits for the save under way still comes, after this.
+void DocumentSaving::onceMore(const Saved &saved)
+{
+    const auto both = [saved, earlier = std::exchange(m_next, {})] {
+        for (const Saved &step : {saved, earlier}) {
+            if (step)
+                step();
+        }
+    };
+    m_next = [this, both] {
+        if (m_document.isDocumentEdited())
+            save(both);
+        else
+            both();
+    };
 }
 
 void DocumentSaving::saveAs(Saved saved)
@@ -85,35 +118,43 @@ void DocumentSaving::saveAs(Saved saved)
     const QString proposed = path.isEmpty() ? m_document.displayName() + QLatin1Char('.') +
                                                   QLatin1String(documenttypes::extension)
                                             : path;
-    m_dialogs.panels->chooseDocumentToSave(proposed,
-                                           [this, saved = std::move(saved)](const QString &chosen) {
-                                               writeTo(QFileInfo(chosen).absoluteFilePath(), saved);
-                                           });
+    // The panel has asked about a file that is there.
+    m_dialogs.panels->chooseDocumentToSave(
+        proposed, [this, saved = std::move(saved)](const QString &chosen) {
+            const QString target = QFileInfo(chosen).absoluteFilePath();
+            writeTo({target, durablefile::stampOf(target)}, saved);
+        });
 }
 
-void DocumentSaving::askToOverwrite(const char *textKey, const QString &path, const Saved &saved)
+void DocumentSaving::askToOverwrite(const char *textKey, const Target &target, const Saved &saved)
 {
-    m_dialogs.sheets->present({withName("document.save.overwriteTitle", path),
+    m_dialogs.sheets->present({withName("document.save.overwriteTitle", target.path),
                                texts::localized(textKey), texts::localized("document.save.saveAs"),
                                texts::localized("Cancel"),
                                texts::localized("document.save.overwrite")},
-                              [this, path, saved](SheetAnswer answer) {
+                              [this, target, saved](SheetAnswer answer) {
                                   if (answer == SheetAnswer::Default)
                                       saveAs(saved);
                                   else if (answer == SheetAnswer::Other)
-                                      writeTo(path, saved);
+                                      writeTo(target, saved);
                               });
 }
 
-void DocumentSaving::writeTo(const QString &path, const Saved &saved)
+void DocumentSaving::writeTo(const Target &target, const Saved &saved)
 {
     m_isBusy = true;
-    m_path = path;
+    m_path = target.path;
     m_progressTimer.start(timeBeforeProgress);
-    m_document.graphView().encodePicture([this, path, saved, save = ++m_saves] {
+    ++m_saves;
+    m_document.graphView().encodePicture(again(target, saved));
+}
+
+DocumentSaving::Saved DocumentSaving::again(const Target &target, const Saved &saved)
+{
+    return [this, target, saved, save = m_saves] {
         if (save == m_saves && m_isBusy)
-            encodedFor(path, saved);
-    });
+            encodedFor(target, saved);
+    };
 }
 
 void DocumentSaving::showProgress()
@@ -130,17 +171,48 @@ void DocumentSaving::cancel()
 {
     if (!m_isBusy || m_writing.isWorking())
         return;
-    m_isBusy = false;
-    m_progressTimer.stop();
-    m_progress->hide();
+    end();
     m_next = {};
 }
 
-// What is written is the document of this moment, whatever was done while the picture was encoded
-// and whatever is done while the file is written.
-void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
+void DocumentSaving::end()
 {
-    const ArchiveDictionary root = m_document.rootDictionary();
+    m_isBusy = false;
+    m_progressTimer.stop();
+    m_progress->hide();
+}
+
+// What is written is the document of this moment, whatever was done while the picture was encoded
+// and whatever is done while the file is written. An anchor on its way is not where it is meant to
+// be; and the file may have become another one since the user was asked.
+void DocumentSaving::encodedFor(const Target &target, const Saved &saved)
+{
+    if (m_document.graphView().isTrackingAnchorDrag()) {
+        connect(&m_document.graphView(), &GraphImageView::anchorDragEnded, this,
+                again(target, saved), Qt::SingleShotConnection);
+        return;
+    }
+    if (pathsBeingWritten().contains(target.path)) {
+        QTimer::singleShot(timeBetweenLooks, this, again(target, saved));
+        return;
+    }
+    const auto present = durablefile::stampOf(target.path);
+    if (present && present != target.agreed) {
+        end();
+        m_next = {};
+        askToOverwrite(target.agreed ? "document.save.changedText" : "document.save.existsText",
+                       {target.path, present}, saved);
+        return;
+    }
+    begin(target.path, saved);
+}
+
+void DocumentSaving::begin(const QString &path, const Saved &saved)
+{
+    // What could not be encoded for want of memory is not tried again.
+    const ArchiveDictionary root = m_document.graphView().pictureIsEncoded()
+                                       ? m_document.rootDictionary()
+                                       : m_document.rootDictionaryAsFarAsEncoded();
     if (m_document.hasImage() && pictureSizeIn(root) == 0) {
         written(path, saved, {texts::localized("document.save.noMemory"), {}});
         return;
@@ -150,8 +222,12 @@ void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
         written(path, saved, write(path, root));
         return;
     }
+    pathsBeingWritten().insert(path);
     m_writing.begin([this, path, saved, root](const std::stop_token &) -> BackgroundWork::Handler {
-        return [this, path, saved, outcome = write(path, root)] { written(path, saved, outcome); };
+        return [this, path, saved, outcome = write(path, root)] {
+            pathsBeingWritten().remove(path);
+            written(path, saved, outcome);
+        };
     });
     if (!m_progress->isHidden())
         showProgress();
@@ -159,10 +235,7 @@ void DocumentSaving::encodedFor(const QString &path, const Saved &saved)
 
 void DocumentSaving::written(const QString &path, const Saved &saved, const Outcome &outcome)
 {
-    m_isBusy = false;
-    m_progressTimer.stop();
-    m_progress->hide();
-    m_statusBar.clearMessage();
+    end();
     const Saved next = std::exchange(m_next, {});
     if (outcome.refused) {
         refused(path, *outcome.refused);

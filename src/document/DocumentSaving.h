@@ -27,8 +27,10 @@ public:
     using Saved = std::function<void()>;
 
     DocumentSaving(MyDocument &document, const WindowDialogs &dialogs, QStatusBar &statusBar);
+    ~DocumentSaving() override;
 
-    /// Writes the document's file, or asks where to if it has none.
+    /// Writes the document's file, or asks where to if it has none. While another save is under way
+    /// it comes after that one, if there is still something to be saved.
     void save(Saved saved);
     void saveAs(Saved saved);
     /// Asks whether changes are to be saved; `agreed` runs after they were, or if they need not be.
@@ -50,20 +52,31 @@ private:
     };
 
     [[nodiscard]] static Outcome write(const QString &path, const ArchiveDictionary &root);
-    void writeTo(const QString &path, const Saved &saved);
+    /// A file, and its state that the user has agreed to replace; nothing: there was none.
+    struct Target
+    {
+        QString path;
+        std::optional<durablefile::Stamp> agreed;
+    };
+
+    void writeTo(const Target &target, const Saved &saved);
     void cancel();
     void showProgress();
-    void encodedFor(const QString &path, const Saved &saved);
+    void encodedFor(const Target &target, const Saved &saved);
+    /// Calls encodedFor() again, if the save is not cancelled meanwhile.
+    [[nodiscard]] Saved again(const Target &target, const Saved &saved);
+    void begin(const QString &path, const Saved &saved);
+    void end();
+    void onceMore(const Saved &saved);
     void written(const QString &path, const Saved &saved, const Outcome &outcome);
     void refused(const QString &path, const QString &reason);
-    void askToOverwrite(const char *textKey, const QString &path, const Saved &saved);
+    void askToOverwrite(const char *textKey, const Target &target, const Saved &saved);
     void agreedUnlessEdited(const Saved &agreed);
     void reread();
     void wasReread(const QString &path, const documentfile::Document &read);
 
     MyDocument &m_document;
     const WindowDialogs &m_dialogs;
-    QStatusBar &m_statusBar;
     BackgroundWork m_writing;
     QTimer m_progressTimer;
     SavingProgress *m_progress; // owned by the status bar

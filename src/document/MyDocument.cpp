@@ -23,6 +23,7 @@
 #include "platform/NotificationCentre.h"
 #include "platform/Pasteboard.h"
 #include "platform/TableDrag.h"
+#include "platform/TextField.h"
 #include "platform/Texts.h"
 #include "prefs/CurvegrabPrefs.h"
 #include "ui_MyDocument.h"
@@ -360,9 +361,16 @@ void MyDocument::windowDidResignKey()
     m_graphView->stopMouseChecking();
 }
 
+void MyDocument::takeTypedText()
+{
+    if (auto *field = qobject_cast<TextField *>(m_window->focusWidget()))
+        field->takeTypedText();
+}
+
 bool MyDocument::windowShouldClose()
 {
     m_reading->abandon();
+    takeTypedText();
     if (m_closeAgreed || (!isDocumentEdited() && !m_saving->isBusy()))
         return true;
     closeThen({});
@@ -422,14 +430,18 @@ RecentThumbnails &MyDocument::recentThumbnails() const { return m_services.recen
 // Until a file is read whole there is nothing that could take its place.
 void MyDocument::saveDocument()
 {
-    if (!isReading())
-        m_saving->save({});
+    if (isReading())
+        return;
+    takeTypedText();
+    m_saving->save({});
 }
 
 void MyDocument::saveDocumentAs()
 {
-    if (!isReading())
-        m_saving->saveAs({});
+    if (isReading())
+        return;
+    takeTypedText();
+    m_saving->saveAs({});
 }
 
 void MyDocument::revertDocumentToSaved() { m_saving->revert(); }

@@ -289,6 +289,8 @@ private:
     void dragSelection();
     void placeNewWindow();
     void rememberWindowPlace();
+    /// What stands in the field with the keyboard counts, though the user has not left it yet.
+    void takeTypedText();
     void openOwnPicture();
     /// `openImageFileDidEnd:returnCode:contextInfo:` takes the picture that the user has confirmed.
     void openImageFileDidEnd(const QString &path);

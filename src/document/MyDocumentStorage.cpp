@@ -315,6 +315,8 @@ bool MyDocument::isUntouched() const
 void MyDocument::isBeingSaved()
 {
     m_undoManager.closeGroup();
+    // What follows a step that is saved is another one.
+    m_currentAxes->endMovesOfPart();
     m_countBeingSaved = m_changeCount;
     m_stateBeingSavedIsGone = false;
 }
@@ -392,6 +394,7 @@ bool MyDocument::isReading() const { return m_reading->isReading(); }
 void MyDocument::closeThen(std::function<void()> closed)
 {
     m_reading->abandon();
+    takeTypedText();
     if (m_saving->isBusy()) {
         m_saving->whenSaved([this, closed = std::move(closed)] { closeThen(closed); });
         return;

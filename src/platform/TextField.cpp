@@ -41,7 +41,13 @@ void TextField::setStringValue(const QString &text)
 void TextField::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
-    if (m_editedByUser && leavesField(event->reason()))
+    if (leavesField(event->reason()))
+        takeTypedText();
+}
+
+void TextField::takeTypedText()
+{
+    if (m_editedByUser)
         commit();
 }
 

@@ -23,6 +23,9 @@ public:
     /// Shows `text`; sends no action, now or on losing focus.
     void setStringValue(const QString &text);
 
+    /// Sends the action if the text was changed by the user since the last one.
+    void takeTypedText();
+
 Q_SIGNALS:
     /// The user has entered the text.
     void committed();

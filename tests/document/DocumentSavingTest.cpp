@@ -1,8 +1,10 @@
 #include "document/TestDocument.h"
 
+#include "axes/CurrentAxes.h"
 #include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
 #include "document/SampleRoots.h"
+#include "platform/GeometryText.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -559,4 +561,138 @@ TEST_F(LargeDocument, closingWithASaveAsksAgainAboutWhatWasDoneMeanwhile)
     ASSERT_TRUE(isSaved());
     EXPECT_EQ(test.services.closedDocuments, 0);
     EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
+}
+
+TEST_F(LargeDocument, anAnchorMovedOnByKeysWhileTheFileIsWrittenIsNotSaved)
+{
+    CurrentAxes &axes = test.document->currentAxes();
+    axes.movePart(1, {1, 0});
+    test.endEvent();
+    test.document->saveDocument();
+    axes.movePart(1, {1, 0});
+    test.endEvent();
+    ASSERT_TRUE(isSaved());
+    EXPECT_TRUE(test.document->isDocumentEdited());
+}
+
+TEST_F(LargeDocument, aSecondSaveComesAfterTheFirst)
+{
+    test.document->saveDocument();
+    test.click(120, 100);
+    test.document->saveDocument();
+    ASSERT_TRUE(isSaved());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    const auto root = unarchived(contentOf(path)).root;
+    const ArchiveDictionary *series = root.dictionaryForKey("DataSeries Data");
+    EXPECT_EQ(std::get<ArchiveArray>(series->arrayForKey("Data Series")->at(0).value).size(), 1U);
+}
+
+TEST_F(LargeDocument, asksBeforeItReplacesTheFileOfAnotherDocumentWithTheSameName)
+{
+    TestDocument other(QSize(0, 0));
+    other.document->graphView().replaceImageWithImageRep(noise({1600, 1200}));
+    other.document->setFileUrl(QUrl::fromLocalFile(path));
+    ASSERT_TRUE(QTest::qWaitFor([&other] { return other.document->graphView().pictureIsEncoded(); },
+                                60'000));
+    test.document->saveDocument();
+    other.document->saveDocument();
+    ASSERT_TRUE(isSaved());
+    ASSERT_TRUE(
+        QTest::qWaitFor([&other] { return other.services.sheets->waitingCount() == 1U; }, 60'000));
+    EXPECT_EQ(durablefile::stampOf(path), test.document->fileStamp());
+    EXPECT_TRUE(other.document->isDocumentEdited());
+}
+
+namespace {
+
+/// A document that is being saved for the first time; its picture is not encoded yet.
+class FirstSave : public testing::Test
+{
+protected:
+    FirstSave()
+        : test(QSize(0, 0))
+        , path(m_folder.filePath(QStringLiteral("first.crvgrab")))
+    {
+        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
+        test.document->setFileUrl(QUrl::fromLocalFile(path));
+        test.setAxes();
+        test.document->saveDocument();
+    }
+
+    bool pictureIsEncoded()
+    {
+        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
+                               60'000);
+    }
+
+    TestDocument test;
+
+private:
+    QTemporaryDir m_folder;
+
+protected:
+    QString path;
+};
+
+} // namespace
+
+TEST_F(FirstSave, asksAboutAFileThatCameWhileThePictureWasEncoded)
+{
+    putContent(path, "another one's");
+    ASSERT_TRUE(pictureIsEncoded());
+    EXPECT_EQ(contentOf(path), "another one's");
+    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
+    EXPECT_TRUE(test.document->isDocumentEdited());
+    test.services.sheets->answerFirst(SheetAnswer::Other);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+}
+
+TEST_F(FirstSave, waitsForAnAnchorThatIsOnItsWay)
+{
+    const FloatPoint anchor = test.document->currentAxes().anchor1Point();
+    const float scale = test.document->graphView().imageScale();
+    const QPoint start(static_cast<int>(anchor.x * scale), static_cast<int>(anchor.y * scale));
+    QWidget *view = &test.document->graphView();
+    const auto at = [&](QPoint way) {
+        return test.widgetPosition(start.x() + way.x(), start.y() + way.y());
+    };
+    QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, at({0, 0}));
+    QTest::mouseMove(view, at({10, 10}));
+    QTest::mouseMove(view, at({20, 20}));
+    ASSERT_TRUE(test.document->graphView().isTrackingAnchorDrag());
+    ASSERT_TRUE(pictureIsEncoded());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(QFile::exists(path));
+    QTest::mouseMove(view, at({30, 30}));
+    QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, at({30, 30}));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
+    const auto root = unarchived(contentOf(path)).root;
+    EXPECT_EQ(root.dictionaryForKey("CurrentAxes Data")->stringForKey("Anchor Position 1"),
+              geometrytext::stringFromPoint(test.document->currentAxes().anchor1Point()));
+}
+
+TEST_F(DocumentSavingTest, takesWhatStandsInTheFieldThatIsBeingEdited)
+{
+    test.setAxes();
+    test.document->setFileUrl(QUrl::fromLocalFile(path()));
+    TextField *field = test.ui().maxXTextField;
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("250"));
+    test.command("saveDocument");
+    const auto root = unarchived(contentOf(path())).root;
+    EXPECT_EQ(root.dictionaryForKey("CurrentAxes Data")->doubleForKey("Max X Value"), 250);
+}
+
+TEST_F(DocumentSavingTest, closingAsksAboutWhatStandsInTheFieldThatIsBeingEdited)
+{
+    test.setAxes();
+    test.markSaved();
+    TextField *field = test.ui().maxXTextField;
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("250"));
+    test.document->window().close();
+    EXPECT_EQ(sheets().waitingCount(), 1U);
 }
