@@ -3,9 +3,7 @@
 // toolkit that shows the same, because a machine has good and bad moments. In an X server without a
 // window manager, whose decoration would be taken for the window:
 //   xvfb-run -a -s "-screen 0 1280x1024x24" build/release/bench/start_bench [rounds [program]]
-#include <QDirIterator>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -20,6 +18,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <sys/resource.h>
+#include <sys/time.h>
 #include <vector>
 
 namespace {
@@ -57,21 +57,18 @@ constexpr double nanosecondsOfOne = 1e6; // millisecond
 struct Start
 {
     double time = 0;      ///< milliseconds until the window is there
-    double processor = 0; ///< milliseconds that its threads had a processor meanwhile
+    double processor = 0; ///< milliseconds that it had a processor
 };
 
-/// Milliseconds that the threads of a process have had a processor, as the kernel counts them.
-double processorTimeOf(qint64 process)
+/// Milliseconds that the programs that have ended up to now had a processor.
+double processorTime()
 {
-    double time = 0;
-    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(process),
-                         QDir::Dirs | QDir::NoDotAndDotDot);
-    while (threads.hasNext()) {
-        QFile counts(threads.next() + QStringLiteral("/schedstat"));
-        if (counts.open(QIODevice::ReadOnly))
-            time += counts.readAll().split(' ').front().toDouble() / nanosecondsOfOne;
-    }
-    return time;
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    const auto milliseconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
 /// Starts the program until `isThere`; it is ended then.
@@ -86,10 +83,10 @@ Start timeToShow(const QString &program, const QStringList &arguments,
     process.start(program, arguments);
     while (!isThere() && clock.elapsed() < patience)
         QThread::usleep(500);
-    const Start start{static_cast<double>(clock.nsecsElapsed()) / nanosecondsOfOne,
-                      processorTimeOf(process.processId())};
+    Start start{static_cast<double>(clock.nsecsElapsed()) / nanosecondsOfOne, -processorTime()};
     process.kill();
     process.waitForFinished();
+    start.processor += processorTime();
     return start;
 }
 
