@@ -122,11 +122,11 @@ int main(int argc, char **argv)
                      });
     documents.panels().setHelpViewer(&help);
     prefs.awakeFromNib();
-    documents.start(commandLine.files);
     // What is not needed to see the first window comes after it.
     firstpaint::whenOver(application, [&prefs] {
         QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
         prefs.applicationDidFinishLaunching();
     });
+    documents.start(commandLine.files);
     return QApplication::exec();
 }
