@@ -241,8 +241,12 @@ void MyDocument::applyFrame(const QRect &frame)
 QRect MyDocument::frameWithoutDrawer() const
 {
     QRect frame = m_window->frameGeometry();
-    if (m_window->isMaximized() || m_window->isFullScreen())
-        frame = m_window->normalGeometry();
+    if (m_window->isMaximized() || m_window->isFullScreen()) {
+        const QRect content = m_window->geometry();
+        frame = m_window->normalGeometry().adjusted(
+            frame.left() - content.left(), frame.top() - content.top(),
+            frame.right() - content.right(), frame.bottom() - content.bottom());
+    }
     frame.setWidth(frame.width() - m_window->ui().dataTableDrawer->widthInWindow());
     return frame;
 }

@@ -386,3 +386,18 @@ TEST(DocumentStorage, whatIsReadFromDamagedBytesIsShownAndSavedForGood)
     }
     EXPECT_GT(shown, 10);
 }
+
+TEST(DocumentStorage, aMaximisedWindowIsSavedWithTheFrameThatItComesBackTo)
+{
+    const TestDocument test;
+    DocumentWindow &window = test.document->window();
+    window.setGeometry(100, 150, 1200, 700);
+    const auto frame = [&test] {
+        return test.document->rootDictionary().stringForKey(documentkeys::mainWindowFrame);
+    };
+    const std::string before = frame();
+    window.showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.isMaximized(); }));
+    QCoreApplication::processEvents(); // where there is a desktop, it makes the window larger
+    EXPECT_EQ(frame(), before);
+}
