@@ -292,7 +292,6 @@ bool MyDocument::eventFilter(QObject *watched, QEvent *event)
 
 void MyDocument::openOwnPicture()
 {
-    m_openImageDirect = false;
     const QUrl picture = m_fileUrl;
     // The name of the document beside the picture, not written yet.
     setFileUrl(picture.isLocalFile()
@@ -312,7 +311,6 @@ bool MyDocument::canRevert() const
 bool MyDocument::isUntouched() const
 {
     return m_fileUrl.isEmpty() && !isReading() && !isDocumentEdited() && !hasImage() &&
-           !m_openImageDirect && !m_undoManager.canUndo() && !m_undoManager.canRedo() &&
            m_dataSeries->validSeries().empty();
 }
 
@@ -349,7 +347,6 @@ void MyDocument::hasFile(const QString &path, const std::optional<durablefile::S
 {
     m_fileUrl = QUrl::fromLocalFile(path);
     m_fileStamp = stamp;
-    m_undoManager.closeGroup();
     updateChangeCount(ChangeKind::Cleared);
     m_services.recentFiles().add(path);
     showTitle();

@@ -150,8 +150,6 @@ QStringList RecoveryStore::remains()
     const QFileInfoList sessions = QDir(m_folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot,
                                                                 QDir::Time | QDir::Reversed);
     for (const QFileInfo &session : sessions) {
-        if (session.absoluteFilePath() == m_sessionFolder)
-            continue;
         std::unique_ptr<QLockFile> lock = claim(session.absoluteFilePath());
         if (lock == nullptr)
             continue;
