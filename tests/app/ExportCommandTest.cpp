@@ -88,6 +88,8 @@ TEST_F(ExportCommand, withoutAnyPointNothingIsWritten)
     EXPECT_EQ(run({"--export", path("out.txt"), "--series", "1,2", file}), exitcode::failure);
     EXPECT_FALSE(QFileInfo::exists(path("out.txt")));
     EXPECT_TRUE(err().startsWith("curvegrab: " + file + ": ")) << qPrintable(err());
+    // That there are none is said once, not of each series.
+    EXPECT_EQ(err().count(file), 1) << qPrintable(err());
 }
 
 TEST_F(ExportCommand, aDocumentWithoutPointsCannotBeExported)

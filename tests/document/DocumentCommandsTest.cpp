@@ -23,6 +23,11 @@ TEST(DocumentCommands, seriesCommandsDoNothingWhileSettingAxes)
     TestDocument test;
     test.document->moveToNextSeries();
     EXPECT_EQ(test.document->dataSeries().currentSeries(), 0);
+    test.digitize();
+    test.document->moveToNextSeries();
+    test.setAxes();
+    test.document->moveToPrevSeries();
+    EXPECT_EQ(test.document->dataSeries().currentSeries(), 1);
 }
 
 TEST(DocumentCommands, lockCommandsDoNothingWhileSettingAxes)

@@ -319,3 +319,13 @@ TEST(DocumentRecovery, whatItTakesThePlaceOfGoesWithADocumentThatIsNotWanted)
     EXPECT_TRUE(QTest::qWaitFor([&key] { return !QFile::exists(key); }));
     EXPECT_TRUE(nothingIsKept(test.services));
 }
+
+TEST(DocumentRecovery, aUserWhoNeverRestsIsKeptSafeToo)
+{
+    TestDocument test;
+    QTimer changes;
+    QObject::connect(&changes, &QTimer::timeout, test.document.get(),
+                     [&test] { test.document->updateChangeCount(ChangeKind::Done); });
+    changes.start(100);
+    EXPECT_TRUE(isKept(test.services));
+}

@@ -1,39 +1,22 @@
+#include "document/FileContent.h"
 #include "document/TestDocument.h"
 
-#include "axes/CurrentAxes.h"
 #include "capture/CursorGuide.h"
 #include "capture/DataSeries.h"
-#include "document/SampleRoots.h"
-#include "platform/GeometryText.h"
+#include "capture/DataTableView.h"
 
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QKeySequence>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 using documentarchive::unarchived;
+using filecontent::contentOf;
+using filecontent::putContent;
 
 namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void putContent(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
 
 /// A document with two points that nobody has saved.
 class DocumentSavingTest : public testing::Test
@@ -381,295 +364,75 @@ TEST(DocumentSaving, closingDuringASaveThatFailsKeepsTheWindow)
               qtTrId("document.close.title").arg(test.document->displayName()));
 }
 
-namespace {
-
-/// A picture that is as hard to encode as can be.
-QImage noise(QSize size)
+TEST_F(DocumentSavingTest, aFileThatTheDocumentIsPointedAtIsNotTakenForItsOwn)
 {
-    QImage image(size, QImage::Format_RGB32);
-    std::mt19937 random(3);
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            line[x] = 0xff000000U | static_cast<QRgb>(random() & 0xffffffU);
-    }
-    return image;
+    saveAs(path());
+    putContent(path("other.crvgrab"), "other work");
+    test.document->setFileUrl(QUrl::fromLocalFile(path("other.crvgrab")));
+    test.command("saveDocument");
+    ASSERT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(sheets().presented().back().informativeText, qtTrId("document.save.existsText"));
 }
 
-/// A document around a picture that takes seconds to be encoded.
-class LongSave : public testing::Test
+TEST_F(DocumentSavingTest, closingGoesOnAfterASaveUnderAnotherName)
 {
-protected:
-    LongSave()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("long.crvgrab")))
-    {
-        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
-        putContent(path, "old");
-        test.document->saveDocument();
-        test.services.sheets->answerFirst(SheetAnswer::Other);
-    }
-
-    [[nodiscard]] QWidget &progress() const
-    {
-        return *test.ui().statusBar->findChild<QWidget *>(QStringLiteral("savingProgress"));
-    }
-
-    bool showsProgress()
-    {
-        return QTest::qWaitFor([this] { return progress().isVisible(); });
-    }
-
-    void cancel() const
-    {
-        QTest::mouseClick(progress().findChild<QToolButton *>(), Qt::LeftButton);
-    }
-
-    bool pictureIsEncoded()
-    {
-        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
-                               60'000);
-    }
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    TestDocument test;
-    QString path;
-};
-
-/// A document around a picture whose file takes a while to be written.
-class LargeDocument : public testing::Test
-{
-protected:
-    LargeDocument()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("large.crvgrab")))
-    {
-        test.document->graphView().replaceImageWithImageRep(noise({1600, 1200}));
-        test.digitize();
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
-        EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return test.document->graphView().pictureIsEncoded(); }, 60'000));
-    }
-
-    bool isSaved()
-    {
-        return QTest::qWaitFor([this] { return test.document->fileStamp().has_value(); }, 60'000);
-    }
-
-    TestDocument test;
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    QString path;
-};
-
-} // namespace
-
-TEST_F(LongSave, tellsWhatItIsDoingUntilItIsDone)
-{
-    EXPECT_FALSE(progress().isVisible());
-    const int height = test.ui().statusBar->height();
-    ASSERT_TRUE(showsProgress());
-    EXPECT_EQ(progress().findChild<QLabel *>()->text(),
-              qtTrId("document.saving.preparing").arg(QStringLiteral("long.crvgrab")));
-    EXPECT_EQ(test.ui().statusBar->height(), height);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    EXPECT_FALSE(progress().isVisible());
-    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+    saveAs(path());
+    putContent(path(), "someone else's work");
+    test.click(300, 250);
+    test.command("performClose");
+    sheets().answerFirst(SheetAnswer::Default); // save
+    sheets().answerFirst(SheetAnswer::Default); // but under another name
+    ASSERT_TRUE(test.services.panels->confirm(path("mine.crvgrab")));
+    EXPECT_EQ(pointsIn(path("mine.crvgrab")), 3);
+    EXPECT_EQ(test.services.closedDocuments, 1);
 }
 
-TEST_F(LongSave, cancelledLeavesTheFileAndTheDocumentAsTheyWere)
+TEST_F(DocumentSavingTest, revertingToAFileThatIsGoneChangesNothing)
 {
-    ASSERT_TRUE(showsProgress());
-    cancel();
-    EXPECT_FALSE(progress().isVisible());
-    ASSERT_TRUE(pictureIsEncoded());
-    EXPECT_EQ(contentOf(path), "old");
-    EXPECT_TRUE(test.document->isDocumentEdited());
-    EXPECT_EQ(test.services.sheets->waitingCount(), 0U);
-    // The next one takes up what was done.
-    test.document->saveDocument();
-    test.services.sheets->answerFirst(SheetAnswer::Other);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
+    saveAs(path());
+    test.click(300, 250);
+    ASSERT_TRUE(QFile::remove(path()));
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    waitUntilRead();
+    EXPECT_EQ(sheets().waitingCount(), 1U);
+    EXPECT_EQ(document().dataSeries().maxRows(), 3);
+    EXPECT_TRUE(document().isDocumentEdited());
 }
 
-TEST_F(LongSave, cancelledTakesBackTheClosingThatWaitedForIt)
+TEST_F(DocumentSavingTest, withoutAFileThereIsNothingToRevertTo)
 {
-    EXPECT_FALSE(test.document->window().close());
-    ASSERT_TRUE(showsProgress());
-    cancel();
-    ASSERT_TRUE(pictureIsEncoded());
-    QCoreApplication::processEvents();
-    EXPECT_EQ(test.services.closedDocuments, 0);
-    EXPECT_FALSE(test.document->window().close());
-    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
+    test.document->revertDocumentToSaved();
+    EXPECT_EQ(sheets().waitingCount(), 0U);
+    EXPECT_FALSE(document().isReading());
+    EXPECT_EQ(document().dataSeries().maxRows(), 2);
 }
 
-TEST_F(LongSave, anotherOneAfterACancelledOneIsWrittenOnce)
+TEST_F(DocumentSavingTest, revertingForgetsWhatWasDoneToTheAxes)
 {
-    ASSERT_TRUE(showsProgress());
-    cancel();
-    test.document->saveDocument();
-    test.services.sheets->answerFirst(SheetAnswer::Other);
-    EXPECT_EQ(contentOf(path), "old");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
-    EXPECT_TRUE(test.services.sheets->waitingCount() == 0);
+    test.setAxes();
+    saveAs(path());
+    test.drag({100, 80}, {130, 110});
+    ASSERT_TRUE(test.action("undo")->isEnabled());
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    waitUntilRead();
+    EXPECT_FALSE(test.action("undo")->isEnabled());
 }
 
-TEST_F(LargeDocument, thePictureIsEncodedBeforeAnybodyAsks)
+TEST_F(DocumentSavingTest, revertingForgetsWhatWasDeletedWhileSettingAxes)
 {
-    test.document->saveDocument();
-    EXPECT_TRUE(isSaved());
-    EXPECT_FALSE(test.document->isDocumentEdited());
-    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
-}
-
-TEST_F(LargeDocument, whatIsDoneWhileTheFileIsWrittenIsNotSaved)
-{
-    test.document->saveDocument();
-    test.document->updateChangeCount(ChangeKind::Done);
-    ASSERT_TRUE(isSaved());
-    EXPECT_TRUE(test.document->isDocumentEdited());
-    test.document->updateChangeCount(ChangeKind::Undone);
-    EXPECT_FALSE(test.document->isDocumentEdited());
-    test.document->updateChangeCount(ChangeKind::Undone);
-    EXPECT_TRUE(test.document->isDocumentEdited());
-}
-
-TEST_F(LargeDocument, whatIsUndoneAndReplacedWhileTheFileIsWrittenIsNotSaved)
-{
-    test.document->saveDocument();
-    test.document->updateChangeCount(ChangeKind::Undone);
-    test.document->updateChangeCount(ChangeKind::Done);
-    ASSERT_TRUE(isSaved());
-    EXPECT_TRUE(test.document->isDocumentEdited());
-}
-
-TEST_F(LargeDocument, closingWithASaveAsksAgainAboutWhatWasDoneMeanwhile)
-{
-    test.document->window().close();
-    test.services.sheets->answerFirst(SheetAnswer::Default);
-    test.click(120, 100);
-    ASSERT_TRUE(isSaved());
-    EXPECT_EQ(test.services.closedDocuments, 0);
-    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
-}
-
-TEST_F(LargeDocument, anAnchorMovedOnByKeysWhileTheFileIsWrittenIsNotSaved)
-{
-    CurrentAxes &axes = test.document->currentAxes();
-    axes.movePart(1, {1, 0});
-    test.endEvent();
-    test.document->saveDocument();
-    axes.movePart(1, {1, 0});
-    test.endEvent();
-    ASSERT_TRUE(isSaved());
-    EXPECT_TRUE(test.document->isDocumentEdited());
-}
-
-TEST_F(LargeDocument, aSecondSaveComesAfterTheFirst)
-{
-    test.document->saveDocument();
-    test.click(120, 100);
-    test.document->saveDocument();
-    ASSERT_TRUE(isSaved());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    const auto root = unarchived(contentOf(path)).root;
-    const ArchiveDictionary *series = root.dictionaryForKey("DataSeries Data");
-    EXPECT_EQ(std::get<ArchiveArray>(series->arrayForKey("Data Series")->at(0).value).size(), 1U);
-}
-
-TEST_F(LargeDocument, asksBeforeItReplacesTheFileOfAnotherDocumentWithTheSameName)
-{
-    TestDocument other(QSize(0, 0));
-    other.document->graphView().replaceImageWithImageRep(noise({1600, 1200}));
-    other.document->setFileUrl(QUrl::fromLocalFile(path));
-    ASSERT_TRUE(QTest::qWaitFor([&other] { return other.document->graphView().pictureIsEncoded(); },
-                                60'000));
-    test.document->saveDocument();
-    other.document->saveDocument();
-    ASSERT_TRUE(isSaved());
-    ASSERT_TRUE(
-        QTest::qWaitFor([&other] { return other.services.sheets->waitingCount() == 1U; }, 60'000));
-    EXPECT_EQ(durablefile::stampOf(path), test.document->fileStamp());
-    EXPECT_TRUE(other.document->isDocumentEdited());
-}
-
-namespace {
-
-/// A document that is being saved for the first time; its picture is not encoded yet.
-class FirstSave : public testing::Test
-{
-protected:
-    FirstSave()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("first.crvgrab")))
-    {
-        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
-        test.setAxes();
-        test.document->saveDocument();
-    }
-
-    bool pictureIsEncoded()
-    {
-        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
-                               60'000);
-    }
-
-    TestDocument test;
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    QString path;
-};
-
-} // namespace
-
-TEST_F(FirstSave, asksAboutAFileThatCameWhileThePictureWasEncoded)
-{
-    putContent(path, "another one's");
-    ASSERT_TRUE(pictureIsEncoded());
-    EXPECT_EQ(contentOf(path), "another one's");
-    EXPECT_EQ(test.services.sheets->waitingCount(), 1U);
-    EXPECT_TRUE(test.document->isDocumentEdited());
-    test.services.sheets->answerFirst(SheetAnswer::Other);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
-}
-
-TEST_F(FirstSave, waitsForAnAnchorThatIsOnItsWay)
-{
-    const FloatPoint anchor = test.document->currentAxes().anchor1Point();
-    const float scale = test.document->graphView().imageScale();
-    const QPoint start(static_cast<int>(anchor.x * scale), static_cast<int>(anchor.y * scale));
-    QWidget *view = &test.document->graphView();
-    const auto at = [&](QPoint way) {
-        return test.widgetPosition(start.x() + way.x(), start.y() + way.y());
-    };
-    QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, at({0, 0}));
-    QTest::mouseMove(view, at({10, 10}));
-    QTest::mouseMove(view, at({20, 20}));
-    ASSERT_TRUE(test.document->graphView().isTrackingAnchorDrag());
-    ASSERT_TRUE(pictureIsEncoded());
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(QFile::exists(path));
-    QTest::mouseMove(view, at({30, 30}));
-    QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, at({30, 30}));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
-    const auto root = unarchived(contentOf(path)).root;
-    EXPECT_EQ(root.dictionaryForKey("CurrentAxes Data")->stringForKey("Anchor Position 1"),
-              geometrytext::stringFromPoint(test.document->currentAxes().anchor1Point()));
+    test.setAxes();
+    saveAs(path());
+    test.document->dataTableView().selectAll();
+    test.command("delete");
+    ASSERT_EQ(document().dataSeries().maxRows(), 0);
+    ASSERT_TRUE(test.action("undo")->isEnabled());
+    test.command("revertDocumentToSaved");
+    sheets().answerFirst();
+    waitUntilRead();
+    EXPECT_EQ(document().dataSeries().maxRows(), 2);
+    EXPECT_FALSE(test.action("undo")->isEnabled());
 }
 
 TEST_F(DocumentSavingTest, takesWhatStandsInTheFieldThatIsBeingEdited)
@@ -695,4 +458,19 @@ TEST_F(DocumentSavingTest, closingAsksAboutWhatStandsInTheFieldThatIsBeingEdited
     QTest::keyClicks(field, QStringLiteral("250"));
     test.document->window().close();
     EXPECT_EQ(sheets().waitingCount(), 1U);
+}
+
+TEST(DocumentSaving, aCancelledSaveWritesNothingOnceThePictureIsEncoded)
+{
+    TestDocument test(QSize(3000, 2000));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.crvgrab"));
+    test.document->setFileUrl(QUrl::fromLocalFile(path));
+    test.document->saveDocument();
+    ASSERT_FALSE(test.document->graphView().pictureIsEncoded());
+    test.ui().statusBar->findChild<QToolButton *>(QStringLiteral("cancelSavingButton"))->click();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&test] { return test.document->graphView().pictureIsEncoded(); }, 60'000));
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_TRUE(test.document->isDocumentEdited());
 }

@@ -401,3 +401,30 @@ TEST(DocumentStorage, aMaximisedWindowIsSavedWithTheFrameThatItComesBackTo)
     QCoreApplication::processEvents(); // where there is a desktop, it makes the window larger
     EXPECT_EQ(frame(), before);
 }
+
+TEST(DocumentStorage, anAbsentFrameLeavesTheWindowInItsDefaultPlace)
+{
+    const LoadedDocument absent(archivedData({}));
+    const LoadedDocument stored(archivedData(rootWithFrame("{{0, 0}, {1, 1}}")));
+    const QRect screen = absent.document.window().screen()->geometry();
+    ASSERT_EQ(stored.document.window().frameGeometry().bottom(), screen.bottom());
+    EXPECT_LT(absent.document.window().frameGeometry().bottom(), screen.bottom());
+}
+
+TEST(DocumentStorage, theGuideFindsTheStoredAxes)
+{
+    // The second series takes its X from the first, and where that has none, from the axes.
+    ArchiveDictionary root = sampleroots::root(Kind::Polar);
+    ArchiveDictionary axes = *root.dictionaryForKey(documentkeys::currentAxesData);
+    axes.set("Min X Value", {12.5});
+    root.set(documentkeys::currentAxesData, {axes});
+    ArchiveDictionary guide = *root.dictionaryForKey(documentkeys::cursorGuideData);
+    guide.set("Auto X Value Mode", sampleroots::integer(2));
+    root.set(documentkeys::cursorGuideData, {guide});
+    ArchiveDictionary series = sampleroots::series(sampleroots::converter(Kind::Polar), 0);
+    series.set("Current Series", sampleroots::integer(1));
+    root.set(documentkeys::dataSeriesData, {series});
+    root.set(documentkeys::actionTabSelection, sampleroots::integer(0));
+    const LoadedDocument loaded(archivedData(root));
+    EXPECT_EQ(loaded.document.window().ui().currentXTextField->doubleValue(), 12.5);
+}

@@ -163,3 +163,17 @@ TEST(DocumentUndo, theWindowShowsThatTheDocumentIsModified)
     test.drag({100, 80}, {130, 110});
     EXPECT_TRUE(test.document->window().isWindowModified());
 }
+
+TEST(DocumentUndo, whatReplacesAnUndoneSavedStateIsAChangeThoughTheCountIsTheSame)
+{
+    TestDocument test;
+    test.markSaved();
+    test.document->updateChangeCount(ChangeKind::Undone);
+    test.document->updateChangeCount(ChangeKind::Done);
+    EXPECT_TRUE(test.document->isDocumentEdited());
+    test.document->updateChangeCount(ChangeKind::Undone);
+    test.document->updateChangeCount(ChangeKind::Redone);
+    EXPECT_TRUE(test.document->isDocumentEdited());
+    test.markSaved();
+    EXPECT_FALSE(test.document->isDocumentEdited());
+}

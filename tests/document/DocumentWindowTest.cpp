@@ -204,3 +204,69 @@ TEST(DocumentWindow, theChosenPageStandsOutInADarkPalette)
     const QColor other = backgroundOf(test.ui().digitizingTabButton);
     EXPECT_GT(chosen.blue() - other.blue(), 30);
 }
+
+TEST(DocumentWindow, openingTheDrawerByItsHandleSetsButtonAndTitleBack)
+{
+    TestDocument test;
+    auto *handle = test.ui().dataTableDrawer->findChild<QWidget *>("drawerHandle");
+    EXPECT_TRUE(test.ui().drawerOpenButton->isChecked());
+    QTest::mouseClick(handle, Qt::LeftButton);
+    QTest::mouseClick(handle, Qt::LeftButton);
+    EXPECT_EQ(test.document->drawerOpenButtonState(), 0);
+    EXPECT_TRUE(test.ui().drawerOpenButton->isChecked());
+    EXPECT_EQ(test.services.showHideTable.text(), qtTrId("HideTable"));
+}
+
+TEST(DocumentWindow, theStandardFrameHasTheOpenDrawerBesideIt)
+{
+    TestDocument test({1000, 400});
+    test.document->window().resize(1100, 650);
+    test.command("zoomWindow");
+    ASSERT_TRUE(test.ui().dataTableDrawer->isOpen());
+    EXPECT_EQ(test.document->windowFrameSize(), (FloatSize{1037, 607}));
+}
+
+TEST(DocumentWindow, aStandardWindowThatWasMovedStaysWhereItIs)
+{
+    TestDocument test({700, 400});
+    DocumentWindow &window = test.document->window();
+    window.move(40, 60);
+    test.command("zoomWindow");
+    window.move(90, 110);
+    const QRect moved = window.geometry();
+    test.command("zoomWindow");
+    EXPECT_EQ(window.geometry(), moved);
+}
+
+TEST(DocumentWindow, aNewPictureLeavesAMaximisedWindowAsItIs)
+{
+    TestDocument test;
+    DocumentWindow &window = test.document->window();
+    window.showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.isMaximized(); }));
+    QCoreApplication::processEvents(); // where there is a desktop, it makes the window larger
+    const QRect filled = window.geometry();
+    QImage picture(300, 200, QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    test.document->graphView().replaceImageWithImageRep(picture);
+    EXPECT_EQ(window.geometry(), filled);
+}
+
+TEST(DocumentWindow, aClosedWindowLetsItsPictureGo)
+{
+    TestDocument test;
+    test.markSaved();
+    ASSERT_TRUE(test.document->window().close());
+    EXPECT_FALSE(test.document->hasImage());
+}
+
+TEST(DocumentWindow, theIconsFollowThePalette)
+{
+    const TestDocument test;
+    const auto shown = [&test] { return test.ui().handToolButton->icon().pixmap(32).toImage(); };
+    const QImage before = shown();
+    QPalette palette = test.document->window().palette();
+    palette.setColor(QPalette::ButtonText, Qt::magenta);
+    test.document->window().setPalette(palette);
+    EXPECT_NE(shown(), before);
+}

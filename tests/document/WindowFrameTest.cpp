@@ -69,3 +69,19 @@ TEST(WindowFrame, aStoredFrameLargerThanTheScreenTakesTheScreen)
     EXPECT_EQ(restored({10, 10, 1300, 200}, {300, 100}, {{0, 0, 1280, 1024}}),
               QRect(0, 10, 1280, 200));
 }
+
+TEST(WindowFrame, aStoredFrameIsBroughtBackOntoTheScreenThatShowsMostOfIt)
+{
+    const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1600, 1200}};
+    EXPECT_EQ(restored({1180, 300, 1700, 200}, {300, 100}, screens), QRect(1280, 300, 1600, 200));
+    EXPECT_EQ(restored({1240, -50, 400, 200}, {300, 100}, screens), QRect(1280, 0, 400, 200));
+}
+
+TEST(WindowFrame, aStoredFrameOfImpossibleNumbersIsFarAwayOnTheSideThatItNames)
+{
+    const QRect screen(0, 0, 1280, 1024);
+    EXPECT_GT(windowframe::fromBottomLeft({{1e30F, 0}, {400, 200}}, screen).left(), screen.right());
+    EXPECT_LT(windowframe::fromBottomLeft({{-1e30F, 0}, {400, 200}}, screen).left(), -1000);
+    EXPECT_LT(windowframe::fromBottomLeft({{0, 1e30F}, {400, 200}}, screen).top(), -1000);
+    EXPECT_GT(windowframe::fromBottomLeft({{0, 0}, {1e30F, 200}}, screen).width(), screen.width());
+}
