@@ -241,9 +241,13 @@ std::vector<std::vector<double>> ProgramUnderTest::savedData()
     };
     if (!QTest::qWaitFor(panelHasFocus, patience) || !fillPanel(path))
         return {};
-    key(QStringLiteral("Return"));
-    const auto dataCame = [&path] { return QFileInfo(path).size() > 0; };
-    if (!QTest::qWaitFor(dataCame, patience))
+    // The list with proposals may come up late, and takes a Return for itself.
+    const auto isSaved = [this, &path, panel = activeWindow()] {
+        if (activeWindow() == panel)
+            key(QStringLiteral("Return"));
+        return QTest::qWaitFor([&path] { return QFileInfo(path).size() > 0; }, 1000);
+    };
+    if (!QTest::qWaitFor(isSaved, patience))
         return {};
     QFile file(path);
     std::vector<std::vector<double>> rows;
