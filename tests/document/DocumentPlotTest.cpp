@@ -8,6 +8,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 
 #include <gtest/gtest.h>
@@ -55,6 +56,23 @@ protected:
         return QTest::qWaitFor([&before] { return picture() != before; }, 2000);
     }
 
+    /// The plot when nothing waits to be shown any more: for longer than it gathers changes.
+    static QImage settledPicture()
+    {
+        constexpr int longEnough = 250;
+        QImage last = picture();
+        QElapsedTimer unchanged;
+        unchanged.start();
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const QImage now = picture();
+            if (now != last)
+                unchanged.restart();
+            last = now;
+            return unchanged.elapsed() > longEnough;
+        }));
+        return last;
+    }
+
     TestDocument m_test;
 };
 
@@ -83,7 +101,7 @@ TEST_F(DocumentPlotTest, followsPointsAndUndo)
 TEST_F(DocumentPlotTest, followsTheAxes)
 {
     m_test.command("showResult");
-    const QImage parallel = picture();
+    const QImage parallel = settledPicture();
     m_test.command("choosePolarAxes");
     EXPECT_TRUE(changesFrom(parallel));
 }
@@ -91,7 +109,7 @@ TEST_F(DocumentPlotTest, followsTheAxes)
 TEST_F(DocumentPlotTest, followsTypedAxisValues)
 {
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     m_test.ui().maxXTextField->selectAll();
     QTest::keyClicks(m_test.ui().maxXTextField, QStringLiteral("7"));
     QTest::keyClick(m_test.ui().maxXTextField, Qt::Key_Return);
@@ -101,7 +119,7 @@ TEST_F(DocumentPlotTest, followsTypedAxisValues)
 TEST_F(DocumentPlotTest, followsLogarithmicAxes)
 {
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     m_test.ui().logXCheck->click();
     EXPECT_TRUE(changesFrom(before));
 }
@@ -110,10 +128,10 @@ TEST_F(DocumentPlotTest, followsTheRangeAndTheSenseOfAngles)
 {
     m_test.command("choosePolarAxes");
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     QTest::keyClick(m_test.ui().thetaRangePopup, Qt::Key_Down);
     ASSERT_TRUE(changesFrom(before));
-    const QImage withOtherRange = picture();
+    const QImage withOtherRange = settledPicture();
     m_test.ui().rotDirRadio->button(1)->click();
     EXPECT_TRUE(changesFrom(withOtherRange));
 }
@@ -123,7 +141,7 @@ TEST_F(DocumentPlotTest, followsTheMarkersOfASeries)
     m_test.digitize();
     m_test.click(120, 100);
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     QTest::keyClick(m_test.ui().markerDrawPopup, Qt::Key_Down);
     EXPECT_TRUE(changesFrom(before));
 }
@@ -137,7 +155,7 @@ TEST_F(DocumentPlotTest, followsSorting)
     m_test.click(300, 300);
     m_test.click(200, 100);
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     m_test.ui().sortCheck->click();
     EXPECT_TRUE(changesFrom(before));
 }
@@ -147,7 +165,7 @@ TEST_F(DocumentPlotTest, followsTheStyleOfASeries)
     m_test.digitize();
     m_test.click(120, 100);
     m_test.command("showResult");
-    const QImage before = picture();
+    const QImage before = settledPicture();
     CurvegrabPrefs &prefs = m_test.services.prefs();
     PrefsDictionary style = prefs.plotPrefsForSeries(0);
     prefs.setShape(3, style);
