@@ -119,7 +119,8 @@ bool RunningProgram::handOver(const QStringList &paths)
         serve();
         return false;
     }
-    // Another start, which may be as young as this one, was first.
+    // Another start, which may be as young as this one, was first. Nothing tells when it has begun
+    // to listen.
     const QDeadlineTimer patience(m_first.isThere() ? timeToServe : 0);
     LocalSocket running = LocalSocket::connectedTo(m_name);
     while (!running.isOpen() && !patience.hasExpired()) {

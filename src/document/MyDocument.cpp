@@ -68,8 +68,8 @@ MyDocument::MyDocument(DocumentServices &services, int number, QObject *parent)
     makeReading();
     m_window->keepHintClearOfProgress();
     showTitle();
-    // The first question to the pasteboard loads all formats of pictures, which nobody shall wait for
-    // who has not seen the window yet.
+    // The first question to the pasteboard loads all formats of pictures, which nobody shall wait
+    // for who has not seen the window yet.
     m_pasteboardIsGood = false;
     showsChanged();
 }
