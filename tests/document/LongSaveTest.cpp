@@ -30,16 +30,40 @@ QImage noise(QSize size)
     return image;
 }
 
-/// A document around a picture that takes seconds to be encoded.
-class LongSave : public testing::Test
+/// A document around a picture of noise, which is long to encode and large on the disk.
+class NoisyDocument : public testing::Test
+{
+protected:
+    explicit NoisyDocument(QSize pictureSize)
+        : test(QSize(0, 0))
+        , path(m_folder.filePath(QStringLiteral("noisy.crvgrab")))
+    {
+        test.document->graphView().replaceImageWithImageRep(noise(pictureSize));
+        test.document->setFileUrl(QUrl::fromLocalFile(path));
+    }
+
+    bool pictureIsEncoded()
+    {
+        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
+                               60'000);
+    }
+
+    TestDocument test;
+
+private:
+    QTemporaryDir m_folder;
+
+protected:
+    QString path;
+};
+
+/// A save that takes seconds, since the picture is not encoded yet; a file is there already.
+class LongSave : public NoisyDocument
 {
 protected:
     LongSave()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("long.crvgrab")))
+        : NoisyDocument({2500, 2000})
     {
-        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
         putContent(path, "old");
         test.document->saveDocument();
         test.services.sheets->answerFirst(SheetAnswer::Other);
@@ -59,48 +83,23 @@ protected:
     {
         QTest::mouseClick(progress().findChild<QToolButton *>(), Qt::LeftButton);
     }
-
-    bool pictureIsEncoded()
-    {
-        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
-                               60'000);
-    }
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    TestDocument test;
-    QString path;
 };
 
 /// A document around a picture whose file takes a while to be written.
-class LargeDocument : public testing::Test
+class LargeDocument : public NoisyDocument
 {
 protected:
     LargeDocument()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("large.crvgrab")))
+        : NoisyDocument({1600, 1200})
     {
-        test.document->graphView().replaceImageWithImageRep(noise({1600, 1200}));
         test.digitize();
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
-        EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return test.document->graphView().pictureIsEncoded(); }, 60'000));
+        EXPECT_TRUE(pictureIsEncoded());
     }
 
     bool isSaved()
     {
         return QTest::qWaitFor([this] { return test.document->fileStamp().has_value(); }, 60'000);
     }
-
-    TestDocument test;
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    QString path;
 };
 
 } // namespace
@@ -111,7 +110,7 @@ TEST_F(LongSave, tellsWhatItIsDoingUntilItIsDone)
     const int height = test.ui().statusBar->height();
     ASSERT_TRUE(showsProgress());
     EXPECT_EQ(progress().findChild<QLabel *>()->text(),
-              qtTrId("document.saving.preparing").arg(QStringLiteral("long.crvgrab")));
+              qtTrId("document.saving.preparing").arg(QStringLiteral("noisy.crvgrab")));
     EXPECT_EQ(test.ui().statusBar->height(), height);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !test.document->isDocumentEdited(); }, 60'000));
     EXPECT_FALSE(progress().isVisible());
@@ -266,32 +265,15 @@ TEST_F(LargeDocument, asksBeforeItReplacesTheFileOfAnotherDocumentWithTheSameNam
 namespace {
 
 /// A document that is being saved for the first time; its picture is not encoded yet.
-class FirstSave : public testing::Test
+class FirstSave : public NoisyDocument
 {
 protected:
     FirstSave()
-        : test(QSize(0, 0))
-        , path(m_folder.filePath(QStringLiteral("first.crvgrab")))
+        : NoisyDocument({2500, 2000})
     {
-        test.document->graphView().replaceImageWithImageRep(noise({2500, 2000}));
-        test.document->setFileUrl(QUrl::fromLocalFile(path));
         test.setAxes();
         test.document->saveDocument();
     }
-
-    bool pictureIsEncoded()
-    {
-        return QTest::qWaitFor([this] { return test.document->graphView().pictureIsEncoded(); },
-                               60'000);
-    }
-
-    TestDocument test;
-
-private:
-    QTemporaryDir m_folder;
-
-protected:
-    QString path;
 };
 
 } // namespace
