@@ -44,6 +44,7 @@ void DocumentRecovery::documentChanged()
 void DocumentRecovery::forget()
 {
     m_timer.stop();
+    takeBackWhatWasTold();
     for (QString *key : {&m_key, &m_replaces}) {
         if (!key->isEmpty())
             m_writer.remove(std::exchange(*key, {}));
@@ -82,8 +83,10 @@ void DocumentRecovery::keep()
 
 void DocumentRecovery::wrote(const std::optional<QString> &reason)
 {
-    if (!reason)
+    if (!reason) {
+        takeBackWhatWasTold();
         return;
+    }
     if (m_document.graphView().pictureIsEncoded())
         tellOnce(*reason);
     else
@@ -111,4 +114,11 @@ void DocumentRecovery::tellOnce(const QString &reason)
     if (std::exchange(m_wasTold, true))
         return;
     m_statusBar.showMessage(texts::localized("document.recovery.failed").arg(reason));
+}
+
+// Saved, or kept safe after all: the hints may come back.
+void DocumentRecovery::takeBackWhatWasTold()
+{
+    if (std::exchange(m_wasTold, false))
+        m_statusBar.clearMessage();
 }

@@ -34,6 +34,7 @@ private:
     void wrote(const std::optional<QString> &reason);
     void keepWhenEncoded();
     void tellOnce(const QString &reason);
+    void takeBackWhatWasTold();
 
     MyDocument &m_document;
     RecoveryStore &m_store;

@@ -295,6 +295,22 @@ TEST(DocumentRecovery, aWriteThatFailsIsTold)
     }));
 }
 
+TEST(DocumentRecovery, theWarningGoesWithASave)
+{
+    TestDocument test;
+    test.document->keepSafeNow();
+    ASSERT_TRUE(isKept(test.services));
+    QDir(test.services.recoveryFolder()).removeRecursively();
+    test.document->keepSafeNow();
+    const QStatusBar &status = *test.ui().statusBar;
+    ASSERT_TRUE(QTest::qWaitFor([&status] { return !status.currentMessage().isEmpty(); }));
+    const QTemporaryDir folder;
+    test.document->setFileUrl(
+        QUrl::fromLocalFile(folder.filePath(QStringLiteral("chart.crvgrab"))));
+    test.command("saveDocument");
+    EXPECT_EQ(status.currentMessage(), QString());
+}
+
 TEST(DocumentRecovery, whatItTakesThePlaceOfGoesOnceItIsKept)
 {
     TestDocument test;

@@ -62,7 +62,7 @@ class LongSave : public NoisyDocument
 {
 protected:
     LongSave()
-        : NoisyDocument({2500, 2000})
+        : NoisyDocument({4000, 3000})
     {
         putContent(path, "old");
         test.document->saveDocument();
