@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,3 +20,14 @@ HeldFile::~HeldFile()
 }
 
 bool HeldFile::hold() { return isThere() && ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0; }
+
+bool HeldFile::waitAndHold()
+{
+    if (!isThere())
+        return false;
+    int result = 0;
+    do
+        result = ::flock(m_descriptor, LOCK_EX);
+    while (result != 0 && errno == EINTR);
+    return result == 0;
+}

@@ -18,6 +18,8 @@ public:
     /// Takes hold of it until the end of this object; false if somebody else has it, or if there
     /// can be no such file.
     [[nodiscard]] bool hold();
+    /// The same, once whoever has it has let go; false only if there can be no such file.
+    bool waitAndHold();
 
 private:
     static constexpr int none = -1;

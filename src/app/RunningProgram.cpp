@@ -1,14 +1,12 @@
 #include "app/RunningProgram.h"
 
 #include <QCryptographicHash>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSocketNotifier>
 #include <QStandardPaths>
-#include <QThread>
 
 #include <utility>
 
@@ -17,8 +15,6 @@ namespace {
 // One line of JSON goes there, an array of paths, and one line comes back.
 constexpr char accepted[] = "opened\n";
 constexpr qsizetype longestRequest = 1'000'000;
-constexpr int timeToServe = 1000; // milliseconds
-constexpr int timeBetweenCalls = 10;
 
 std::optional<QStringList> pathsIn(const QByteArray &line)
 {
@@ -115,19 +111,19 @@ QString RunningProgram::nameFor(const QString &stateFolder)
 
 bool RunningProgram::handOver(const QStringList &paths)
 {
-    if (m_first.hold()) {
-        serve();
-        return false;
-    }
-    // Another start, which may be as young as this one, was first. Nothing tells when it has begun
-    // to listen.
-    const QDeadlineTimer patience(m_first.isThere() ? timeToServe : 0);
-    LocalSocket running = LocalSocket::connectedTo(m_name);
-    while (!running.isOpen() && !patience.hasExpired()) {
-        QThread::msleep(timeBetweenCalls);
-        running = LocalSocket::connectedTo(m_name);
-    }
+    const LocalSocket running = firstOrMyself();
     return running.isOpen() && isTaken(running, paths);
+}
+
+// Starts take turns here, so that whoever finds another one to be the first finds it listening.
+LocalSocket RunningProgram::firstOrMyself()
+{
+    HeldFile turn(m_name + QStringLiteral(".turn"));
+    turn.waitAndHold();
+    if (!m_first.hold())
+        return LocalSocket::connectedTo(m_name);
+    serve();
+    return {};
 }
 
 void RunningProgram::serve()

@@ -34,6 +34,9 @@ Q_SIGNALS:
 private:
     class Visitor;
 
+    /// The program that runs already. Closed if it does not listen, or if there is none: then this
+    /// one serves.
+    [[nodiscard]] LocalSocket firstOrMyself();
     void serve();
     void welcome();
     void answer(Visitor &visitor, const QByteArray &request);

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <memory>
+#include <thread>
 
 namespace {
 
@@ -36,9 +38,26 @@ TEST_F(HeldFileTest, theNextOneHoldsItWhenTheFirstIsGone)
     EXPECT_TRUE(second.hold());
 }
 
+TEST_F(HeldFileTest, whoWaitsHoldsItOnceTheFirstHasLetGo)
+{
+    auto first = std::make_unique<HeldFile>(path());
+    ASSERT_TRUE(first->hold());
+    std::atomic<bool> hasLetGo = false;
+    bool heldAfterwards = false;
+    std::jthread waiting([&] {
+        HeldFile second(path());
+        heldAfterwards = second.waitAndHold() && hasLetGo;
+    });
+    hasLetGo = true;
+    first.reset();
+    waiting.join();
+    EXPECT_TRUE(heldAfterwards);
+}
+
 TEST_F(HeldFileTest, nobodyHoldsWhatCannotBe)
 {
     HeldFile file(path() + QStringLiteral("/below"));
     EXPECT_FALSE(file.isThere());
     EXPECT_FALSE(file.hold());
+    EXPECT_FALSE(file.waitAndHold());
 }

@@ -9,6 +9,8 @@
 
 #include <chrono>
 #include <future>
+#include <memory>
+#include <thread>
 
 namespace {
 
@@ -119,6 +121,30 @@ TEST_F(RunningProgramTest, programsWithOtherFilesOrAnotherDisplayDoNotMeet)
     qputenv("DISPLAY", ":of another screen");
     EXPECT_NE(name, RunningProgram::nameFor(QStringLiteral("/home/a")));
     qputenv("DISPLAY", display);
+}
+
+TEST_F(RunningProgramTest, aStartWaitsForItsTurnAndThenFindsTheFirstListening)
+{
+    auto turn = std::make_unique<HeldFile>(name() + QStringLiteral(".turn"));
+    EXPECT_TRUE(turn->hold());
+    bool isHandedOver = false;
+    std::jthread second([&] {
+        RunningProgram program(name());
+        isHandedOver = program.handOver({QStringLiteral("/charts/a.png")});
+    });
+    HeldFile first(name() + QStringLiteral(".lock"));
+    EXPECT_TRUE(first.hold());
+    const LocalSocket server = LocalSocket::listeningAt(name());
+    turn.reset();
+    LocalSocket visitor;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        visitor = server.accepted();
+        return visitor.isOpen();
+    }));
+    EXPECT_TRUE(visitor.awaited());
+    EXPECT_TRUE(visitor.send("opened\n"));
+    second.join();
+    EXPECT_TRUE(isHandedOver);
 }
 
 // A program that hangs keeps its place, but nobody waits for it for ever.
