@@ -36,6 +36,17 @@ protected:
     [[nodiscard]] RecordingSheets &sheets() const { return *test.services.sheets; }
     [[nodiscard]] const MyDocument &document() const { return *test.document; }
 
+    /// Of three points that are not all saved, none goes, and the user is told why.
+    void expectThatRevertingChangesNothing()
+    {
+        test.command("revertDocumentToSaved");
+        sheets().answerFirst();
+        waitUntilRead();
+        EXPECT_EQ(sheets().waitingCount(), 1U);
+        EXPECT_EQ(document().dataSeries().maxRows(), 3);
+        EXPECT_TRUE(document().isDocumentEdited());
+    }
+
     void saveAs(const QString &where)
     {
         test.command("saveDocumentAs");
@@ -225,12 +236,7 @@ TEST_F(DocumentSavingTest, revertingToADamagedFileChangesNothing)
     saveAs(path());
     test.click(300, 250);
     putContent(path(), "damaged");
-    test.command("revertDocumentToSaved");
-    sheets().answerFirst();
-    waitUntilRead();
-    EXPECT_EQ(sheets().waitingCount(), 1U);
-    EXPECT_EQ(document().dataSeries().maxRows(), 3);
-    EXPECT_TRUE(document().isDocumentEdited());
+    expectThatRevertingChangesNothing();
 }
 
 TEST_F(DocumentSavingTest, aCancelledRevertingChangesNothing)
@@ -392,12 +398,7 @@ TEST_F(DocumentSavingTest, revertingToAFileThatIsGoneChangesNothing)
     saveAs(path());
     test.click(300, 250);
     ASSERT_TRUE(QFile::remove(path()));
-    test.command("revertDocumentToSaved");
-    sheets().answerFirst();
-    waitUntilRead();
-    EXPECT_EQ(sheets().waitingCount(), 1U);
-    EXPECT_EQ(document().dataSeries().maxRows(), 3);
-    EXPECT_TRUE(document().isDocumentEdited());
+    expectThatRevertingChangesNothing();
 }
 
 TEST_F(DocumentSavingTest, withoutAFileThereIsNothingToRevertTo)
