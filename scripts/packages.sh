@@ -3,7 +3,7 @@
 
 # To build and run the program.
 packages_to_run=(
-    g++ cmake ninja-build libgl-dev libx11-dev
+    g++ cmake ninja-build libgl-dev libx11-dev libfontconfig-dev
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     qt6-svg-dev qt6-image-formats-plugins qt6-wayland
     qt6-pdf-dev qt6-charts-dev libqpdf-dev libxlsxwriter-dev qt6-translations-l10n

@@ -7,6 +7,7 @@
 #include "document/MenuBarStyle.h"
 #include "helpbook/HelpBookViewer.h"
 #include "platform/FirstPaint.h"
+#include "platform/FontsAhead.h"
 #include "platform/Languages.h"
 #include "platform/TextCatalogues.h"
 #include "platform/Texts.h"
@@ -92,6 +93,7 @@ int main(int argc, char **argv)
     if (consolecommands::serve(commandLine) || !hasDisplay(commandLine))
         return runWithoutWindow(argc, argv, commandLine);
 
+    FontsAhead fonts;
     QApplication application(argc, argv);
     introduce();
     const TextCatalogues catalogues(languageOfUser());
@@ -127,6 +129,7 @@ int main(int argc, char **argv)
         QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/curvegrab.svg")));
         prefs.applicationDidFinishLaunching();
     });
+    fonts.await();
     documents.start(commandLine.files);
     return QApplication::exec();
 }
