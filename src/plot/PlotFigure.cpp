@@ -12,6 +12,10 @@
 
 namespace {
 
+/// A point taken at the end of an axis may miss it by a pixel: the axis need not grow by a step for
+/// that. In eighths of the axis.
+constexpr double missedBy = 0.04;
+
 /// A range that grows with what it has to hold.
 struct Extent
 {
@@ -55,9 +59,10 @@ plotticks::Range rangeFor(const PlotAxis &axis, const Extent &data)
         all = {all.low - room, all.high + room};
     } else {
         const double step = axis.isLogarithmic ? 1 : gridvalues::stepOfAtLeast(apart).length();
-        if (ends.isEmpty() || all.low < ends.low)
+        const double near = missedBy * apart;
+        if (ends.isEmpty() || all.low < ends.low - near)
             all.low = std::floor(all.low / step) * step;
-        if (ends.isEmpty() || all.high > ends.high)
+        if (ends.isEmpty() || all.high > ends.high + near)
             all.high = std::ceil(all.high / step) * step;
     }
     return {all.low, all.high, axis.isLogarithmic, axis.isReversed};

@@ -60,6 +60,17 @@ TEST(PlotFigure, anAxisGrowsToARoundValueWherePointsLieBeyond)
     expectAt(figure, 1, 0.85, 1);
 }
 
+TEST(PlotFigure, aPointThatMissesTheEndOfItsAxisLeavesTheAxisAlone)
+{
+    PlotContent content = samplecontent::linear({{0.9999, 10.01}, {1000.1, -0.01}});
+    content.x = {1, 1000, true, false};
+    const PlotFigure figure = plotfigure::of(content);
+    EXPECT_NEAR(figure.series[0].points[0].x(), 0, 0.001);
+    EXPECT_NEAR(figure.series[0].points[0].y(), 1, 0.002);
+    EXPECT_NEAR(figure.series[0].points[1].x(), 1, 0.001);
+    EXPECT_NEAR(figure.series[0].points[1].y(), 0, 0.002);
+}
+
 TEST(PlotFigure, aLogarithmicAxisGrowsByDecades)
 {
     PlotContent content = samplecontent::linear({{50, 1}});
