@@ -259,7 +259,8 @@ QString WindowFilePanels::folderFor(Panel panel, const QWidget &window) const
         return file.absolutePath();
     if (QString last = m_folders.folderOf(panel); !last.isEmpty())
         return last;
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 // A name typed with its folder leaves the panel in another one.

@@ -12,6 +12,7 @@
 #include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
@@ -285,6 +286,17 @@ TEST_F(WindowFilePanelsTest, aFolderThatIsGoneIsNotOffered)
     askToSave();
     ASSERT_TRUE(shown<QFileDialog>());
     EXPECT_TRUE(shown<QFileDialog>()->directory().exists());
+}
+
+TEST_F(WindowFilePanelsTest, theFirstPanelBeginsAtHomeWhereThereIsNoFolderForDocuments)
+{
+    const QByteArray home = qgetenv("HOME");
+    const auto restore = qScopeGuard([&home] { qputenv("HOME", home); });
+    qputenv("HOME", m_folder.path().toLocal8Bit());
+    m_panels.choosePictureToOpen({QStringLiteral("png")}, [](const QString &) {});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shown<QFileDialog>() != nullptr; }));
+    EXPECT_EQ(shown<QFileDialog>()->directory(), QDir(m_folder.path()));
+    EXPECT_EQ(shown<QFileDialog>()->findChild<QLineEdit *>()->text(), QString());
 }
 
 TEST_F(WindowFilePanelsTest, theFirstPanelOfAWindowBeginsWhereItsKindWasLeft)
