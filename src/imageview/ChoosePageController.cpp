@@ -137,6 +137,8 @@ void ChoosePageController::cancelOpeing() { m_panel->done(QDialog::Rejected); }
 void ChoosePageController::gotoPage()
 {
     setPageImage(numbertext::integerValue(m_ui->pageField->text()));
+    m_ui->pageField->setText(numberText(m_currentPage));
+    m_ui->pageField->selectAll();
 }
 
 void ChoosePageController::nextPage() { setPageImage(m_currentPage + 1); }

@@ -187,6 +187,17 @@ TEST_F(ChoosePageControllerTest, pagesThatThereAreNotAreIgnored)
     }
 }
 
+TEST_F(ChoosePageControllerTest, theFieldShowsThePageAgainAfterANumberThatIsNone)
+{
+    choose(12);
+    type("77");
+    QTest::keyClick(field(), Qt::Key_Return);
+    EXPECT_EQ(field()->text(), QStringLiteral("1"));
+    QTest::keyClicks(field(), QStringLiteral("3"));
+    QTest::keyClick(field(), Qt::Key_Return);
+    EXPECT_EQ(controller.currentPage(), 3);
+}
+
 TEST_F(ChoosePageControllerTest, returnInTheFieldGoesToThePageAndOpensNothing)
 {
     choose(12);
