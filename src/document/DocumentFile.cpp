@@ -7,6 +7,7 @@
 #include "platform/Texts.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <memory>
@@ -59,6 +60,10 @@ Content contentOf(const QString &path, std::uint64_t memoryLimit, const std::sto
     Content content;
     content.stamp = durablefile::stampOf(path);
     QFile file(path);
+    if (QFileInfo(path).isDir()) {
+        content.error = texts::localized("document.open.noFile");
+        return content;
+    }
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         content.error = file.errorString();
         return content;

@@ -136,6 +136,8 @@ void MyDocument::wire()
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::changedOn);
     connect(m_graphView, &GraphImageView::anchorDragEnded, this, &MyDocument::runPostponedCommands);
     connect(m_graphView, &GraphImageView::pictureChanged, this, &MyDocument::showsChanged);
+    connect(m_graphView, &GraphImageView::fileOpened, this,
+            [this](bool wasTaken) { m_hasNoOwnPicture = !wasTaken && !m_fileStamp; });
     connect(m_graphView, &GraphImageView::scaleChanged, this, &MyDocument::showsChanged);
     connect(&m_services.notificationCentre(), &NotificationCentre::posted, this,
             &MyDocument::notificationPosted);

@@ -114,7 +114,8 @@ public:
     /// Whether the file has another state than this document: that of before its changes, or one
     /// that another program has put there. Looks at the disk.
     [[nodiscard]] bool canRevert() const;
-    /// Whether nothing was ever done in this window, so that a file may be opened in it.
+    /// Whether nothing was ever done in this window, so that a file may be opened in it; one whose
+    /// picture could not be opened is such a window too.
     [[nodiscard]] bool isUntouched() const;
     /// What is written to a file now is the document as it is.
     void isBeingSaved();
@@ -319,6 +320,7 @@ private:
     QUrl m_fileUrl;
     std::optional<durablefile::Stamp> m_fileStamp;
     bool m_openImageDirect = false;
+    bool m_hasNoOwnPicture = false; ///< the picture that the window was opened for did not come
     bool m_loadsRemains = false;
     std::optional<ArchiveDictionary> m_loadedDataDict;
     documentarchive::Reading m_refused;

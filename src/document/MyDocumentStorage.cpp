@@ -297,7 +297,8 @@ void MyDocument::openOwnPicture()
     setFileUrl(picture.isLocalFile()
                    ? QUrl::fromLocalFile(documenttypes::documentPathFor(picture.toLocalFile()))
                    : QUrl());
-    whenOnScreen([this, picture] { m_graphView->openImageFile(picture); });
+    m_hasNoOwnPicture = false;
+    whenOnScreen([this, picture] { m_hasNoOwnPicture = !m_graphView->openImageFile(picture); });
 }
 
 bool MyDocument::canRevert() const
@@ -310,8 +311,8 @@ bool MyDocument::canRevert() const
 
 bool MyDocument::isUntouched() const
 {
-    return m_fileUrl.isEmpty() && !isReading() && !isDocumentEdited() && !hasImage() &&
-           m_dataSeries->validSeries().empty();
+    return (m_fileUrl.isEmpty() || m_hasNoOwnPicture) && !isReading() && !isDocumentEdited() &&
+           !hasImage() && m_dataSeries->validSeries().empty();
 }
 
 void MyDocument::isBeingSaved()
@@ -347,6 +348,7 @@ void MyDocument::hasFile(const QString &path, const std::optional<durablefile::S
 {
     m_fileUrl = QUrl::fromLocalFile(path);
     m_fileStamp = stamp;
+    m_hasNoOwnPicture = false;
     updateChangeCount(ChangeKind::Cleared);
     m_services.recentFiles().add(path);
     showTitle();

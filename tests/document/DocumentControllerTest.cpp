@@ -449,6 +449,27 @@ TEST_F(DocumentControllerTest, aCancelledOpeningLeavesNoWindow)
     EXPECT_EQ(controller.recentFiles().paths(), QStringList{path("a.crvgrab")});
 }
 
+TEST_F(DocumentControllerTest, aWindowWhosePictureCouldNotBeOpenedTakesTheNextFile)
+{
+    const QString damaged = path("damaged.png");
+    ASSERT_TRUE(QFile(damaged).open(QIODevice::WriteOnly));
+    start({damaged});
+    press(sheetOf(document()), "OK");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document().isUntouched(); }));
+    openFiles({putPicture("c.png")});
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document().hasImage(); }));
+    EXPECT_FALSE(document().isUntouched());
+    EXPECT_EQ(document().fileUrl().fileName(), QStringLiteral("c.crvgrab"));
+}
+
+TEST_F(DocumentControllerTest, aWindowThatStillWaitsForItsPictureTakesNoOtherFile)
+{
+    controller.start({});
+    controller.openFiles({putPicture("a.png"), putPicture("b.png")});
+    EXPECT_EQ(controller.documents().size(), 2U);
+}
+
 TEST_F(DocumentControllerTest, aCancelledOpeningAtTheStartLeavesAnEmptyWindow)
 {
     controller.start({putDocument("a.crvgrab")});

@@ -4,6 +4,7 @@
 #include "document/SampleRoots.h"
 #include "imageview/ArchivedPicture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -65,6 +66,12 @@ TEST_F(DocumentFileTest, aFileThatDoesNotFitIsNotRead)
     const documentfile::Content refused = documentfile::contentOf(path, 2 * size - 1);
     EXPECT_EQ(refused.error, qtTrId("document.open.tooLarge"));
     EXPECT_TRUE(refused.bytes.isEmpty());
+}
+
+TEST_F(DocumentFileTest, aFolderIsSaidToBeOne)
+{
+    EXPECT_EQ(documentfile::contentOf(QDir::tempPath(), unlimited).error,
+              qtTrId("document.open.noFile"));
 }
 
 TEST_F(DocumentFileTest, aDeviceWithoutEndIsNotReadForEver)
