@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -91,12 +92,27 @@ void InfoPanelController::placeAtFirst()
     if (m_isPlaced)
         return;
     m_isPlaced = true;
-    if (windowplacement::restore(infoPanel(), StateFile(m_statePath), placementKey))
+    if (windowplacement::restore(infoPanel(), StateFile(m_statePath), placementKey)) {
+        keepOnScreen();
         return;
+    }
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QPoint distance(distanceFromScreenEdge, 2 * distanceFromScreenEdge);
     const QSize size = infoPanel().sizeHint();
     infoPanel().move(screen.bottomRight() - distance - QPoint(size.width(), size.height()));
+}
+
+// In another language or font it is larger than where it was left.
+void InfoPanelController::keepOnScreen()
+{
+    QWidget &panel = infoPanel();
+    const QRect screen = panel.screen()->availableGeometry();
+    QRect place(panel.geometry().topLeft(), panel.sizeHint());
+    if (screen.contains(place))
+        return;
+    place.moveRight(std::min(place.right(), screen.right() - distanceFromScreenEdge));
+    place.moveBottom(std::min(place.bottom(), screen.bottom() - distanceFromScreenEdge));
+    panel.setGeometry(place);
 }
 
 void InfoPanelController::rememberPlace()

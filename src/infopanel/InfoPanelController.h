@@ -57,6 +57,7 @@ protected:
 
 private:
     void placeAtFirst();
+    void keepOnScreen();
     void rememberPlace();
     void setImageInfo(const InfoFacts *facts);
     void setAxisInfo(const InfoFacts *facts);

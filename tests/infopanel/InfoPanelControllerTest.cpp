@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -349,6 +350,17 @@ TEST_F(InfoPanel, standsWhereItWasLeftInTheLastSession)
     InfoPanelController next(m_prefs, m_item, m_statePath);
     next.setIsVisible(true);
     EXPECT_EQ(next.infoPanel().pos(), QPoint(123, 87));
+}
+
+TEST_F(InfoPanel, staysOnTheScreenThoughItIsLargerThanWhereItWasLeft)
+{
+    const QRect screen = m_controller.infoPanel().screen()->availableGeometry();
+    m_controller.setIsVisible(true);
+    m_controller.infoPanel().move(screen.bottomRight() - QPoint(40, 40));
+    m_controller.setIsVisible(false);
+    InfoPanelController next(m_prefs, m_item, m_statePath);
+    next.setIsVisible(true);
+    EXPECT_TRUE(screen.contains(next.infoPanel().geometry()));
 }
 
 TEST_F(InfoPanel, remembersItsPlaceThoughTheProgramEndsWhileItIsShown)
