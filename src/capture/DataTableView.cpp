@@ -6,11 +6,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 #include <string>
@@ -334,12 +336,40 @@ void DataTableView::scrollColumnToVisible(int column)
 {
     if (column < 0 || column >= m_model->columnCount())
         return;
+    if (!isVisible())
+        m_columnToShow = column;
     executeDelayedItemsLayout();
     QScrollBar *bar = horizontalScrollBar();
     const int left = m_header->sectionPosition(column);
     const int right = left + m_header->sectionSize(column);
     // A column wider than the table shows its left part.
     bar->setValue(std::min(std::max(bar->value(), right - viewport()->width()), left));
+}
+
+// A table without its width scrolls farther than it has to.
+void DataTableView::showEvent(QShowEvent *event)
+{
+    QTableView::showEvent(event);
+    const int column = std::exchange(m_columnToShow, -1);
+    if (column < 0)
+        return;
+    horizontalScrollBar()->setValue(0);
+    scrollColumnToVisible(column);
+}
+
+// Where a value is cut off its tip is the whole value, elsewhere that of the table.
+bool DataTableView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QModelIndex cell = indexAt(help->pos());
+        if (cell.isValid() && sizeHintForIndex(cell).width() > columnWidth(cell.column())) {
+            QToolTip::showText(help->globalPos(), cell.data().toString(), viewport(),
+                               visualRect(cell));
+            return true;
+        }
+    }
+    return QTableView::viewportEvent(event);
 }
 
 ArchiveDictionary DataTableView::dataForSave() const

@@ -73,6 +73,8 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
 
 private:
@@ -97,4 +99,5 @@ private:
     std::optional<QPoint> m_dragStart;
     /// The column that a release without a drag will press; -1 without one.
     int m_columnToPress = -1;
+    int m_columnToShow = -1; ///< asked for before the table had its width
 };

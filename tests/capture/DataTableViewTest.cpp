@@ -4,12 +4,15 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -526,6 +529,39 @@ TEST_F(DataTableViewLook, scrollsAColumnIntoView)
     table.scrollColumnToVisible(10);
     table.scrollColumnToVisible(-1);
     EXPECT_EQ(bar->value(), 120);
+}
+
+TEST_F(DataTableViewLook, scrollsNoFartherThanItsWidthOnTheScreenAsksFor)
+{
+    table.hide();
+    table.resize(100, 200);
+    table.scrollColumnToVisible(1);
+    table.resize(200, 200);
+    table.show();
+    EXPECT_EQ(table.horizontalScrollBar()->value(), 0);
+    table.hide();
+    table.scrollColumnToVisible(9);
+    table.show();
+    EXPECT_EQ(table.horizontalScrollBar()->value(), 600 - table.viewport()->width());
+}
+
+TEST_F(DataTableViewLook, tellsAValueThatIsCutOffAsATip)
+{
+    table.horizontalHeader()->resizeSection(0, 12);
+    const QPoint place(6, table.verticalHeader()->defaultSectionSize() / 2);
+    QHelpEvent asked(QEvent::ToolTip, place, table.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(table.viewport(), &asked);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("s0r0"));
+    QToolTip::hideText();
+}
+
+TEST_F(DataTableViewLook, leavesTheTipOfTheTableWhereValuesAreWhole)
+{
+    table.setToolTip(QStringLiteral("One column per series."));
+    QHelpEvent asked(QEvent::ToolTip, cell(1), table.viewport()->mapToGlobal(cell(1)));
+    QCoreApplication::sendEvent(table.viewport(), &asked);
+    EXPECT_NE(QToolTip::text(), QStringLiteral("s1r0"));
+    QToolTip::hideText();
 }
 
 TEST_F(DataTableViewLook, readsOnlyTheCellsThatAreSeen)
