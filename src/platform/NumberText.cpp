@@ -63,6 +63,15 @@ double doubleValue(const QString &text)
     return scanned ? scanned->value : 0;
 }
 
+QString readPart(const QString &text)
+{
+    const std::string number = withoutLeadingBlanks(text);
+    const auto scanned = decimaltext::scanNumber(number, decimaltext::Comma::IsThePoint);
+    if (!scanned)
+        return QStringLiteral("0");
+    return QString::fromStdString(number.substr(0, scanned->length)).replace(u',', u'.');
+}
+
 int integerValue(const QString &text)
 {
     const std::string digits = withoutLeadingBlanks(text);

@@ -28,6 +28,9 @@ namespace numbertext {
 /// one, so that a field never holds an infinity.
 [[nodiscard]] double doubleValue(const QString &text);
 
+/// The part of a field's text that doubleValue reads, with a point; "0" if it reads nothing.
+[[nodiscard]] QString readPart(const QString &text);
+
 /// The whole number that a field's text begins with; a fraction is dropped ("250.9" is 250,
 /// "2e2" is 2). Nothing readable is 0; beyond the range it stops at the range's end.
 [[nodiscard]] int integerValue(const QString &text);

@@ -60,6 +60,15 @@ void TextField::keyPressEvent(QKeyEvent *event)
 
 void TextField::commit()
 {
+    if (m_editedByUser)
+        showWhatIsRead();
     m_editedByUser = false;
     Q_EMIT committed();
+}
+
+void TextField::showWhatIsRead()
+{
+    const QString read = numbertext::readPart(text());
+    if (read != text())
+        setText(read);
 }

@@ -4,7 +4,8 @@
 
 /// A free text field that sends its action as desktop fields do: on Return, and on losing
 /// focus if its text was changed since the last action or since it was set by the program.
-/// Nothing that is typed is refused.
+/// Nothing that is typed is refused, but what was not read as a number is gone from the field when
+/// it sends its action, so that nobody takes "10^2" for a hundred.
 class TextField : public QLineEdit
 {
     Q_OBJECT
@@ -36,6 +37,7 @@ protected:
 
 private:
     void commit();
+    void showWhatIsRead();
 
     bool m_editedByUser = false;
 };

@@ -152,6 +152,39 @@ TEST_F(TextFieldTest, nothingThatIsTypedIsRefused)
     EXPECT_EQ(m_field->text(), QStringLiteral("-1,5e+x%"));
 }
 
+TEST_F(TextFieldTest, showsWhatItHasReadWhenItSendsItsAction)
+{
+    QString textAtTheAction;
+    QObject::connect(m_field, &TextField::committed, m_field,
+                     [&] { textAtTheAction = m_field->text(); });
+    for (const auto &[typed, read] : {std::pair{"10^2", "10"},
+                                      {"1,000", "1.000"},
+                                      {" 7 ", "7"},
+                                      {"-2.50e3 m", "-2.50e3"},
+                                      {"abc", "0"}}) {
+        m_field->clear();
+        QTest::keyClicks(m_field, QString::fromLatin1(typed));
+        EXPECT_EQ(m_field->text(), QString::fromLatin1(typed));
+        QTest::keyClick(m_field, Qt::Key_Return);
+        EXPECT_EQ(textAtTheAction, QString::fromLatin1(read)) << typed;
+    }
+}
+
+TEST_F(TextFieldTest, aFieldThatWasEmptiedShowsTheZeroThatItMeans)
+{
+    m_field->setStringValue(QStringLiteral("5"));
+    QTest::keyClick(m_field, Qt::Key_Backspace);
+    QTest::keyClick(m_field, Qt::Key_Tab);
+    EXPECT_EQ(m_field->text(), QStringLiteral("0"));
+}
+
+TEST_F(TextFieldTest, aTextThatNobodyTypedStaysAsItIs)
+{
+    m_field->setStringValue(QStringLiteral("-----"));
+    QTest::keyClick(m_field, Qt::Key_Return);
+    EXPECT_EQ(m_field->text(), QStringLiteral("-----"));
+}
+
 TEST_F(TextFieldTest, theTextReadsAsTheNumberItBeginsWith)
 {
     m_field->setStringValue(QStringLiteral("12abc"));
