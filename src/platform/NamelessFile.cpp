@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <string>
 
 #include <fcntl.h>
@@ -21,6 +22,30 @@ constexpr mode_t permissionsOfNewFiles = 0666;
 constexpr mode_t permissionBits = 07777;
 
 int numberUnless(bool succeeded) { return succeeded ? 0 : errno; }
+
+/// So many programs may save to one path at the same moment, those included that were killed.
+constexpr int mostNames = 100;
+
+/// A file has its passing name for less than a second, but clocks differ.
+constexpr std::time_t longAgo = 24 * 60 * 60;
+
+/// ".chart.crvgrab.saving", ".chart.crvgrab.1.saving" and so on.
+QByteArray passingName(const QString &path, int number)
+{
+    const QFileInfo file(path);
+    const QString mark = number == 0 ? QString() : u'.' + QString::number(number);
+    return QFile::encodeName(file.absolutePath() + QStringLiteral("/.") + file.fileName() + mark +
+                             QStringLiteral(".saving"));
+}
+
+void removeIfLeftLongAgo(const QByteArray &name)
+{
+    struct stat left
+    {};
+    if (::lstat(name.constData(), &left) == 0 && S_ISREG(left.st_mode) &&
+        std::time(nullptr) - left.st_mtime > longAgo)
+        ::unlink(name.constData());
+}
 
 } // namespace
 
@@ -62,17 +87,19 @@ int NamelessFile::flush() const { return numberUnless(::fsync(m_handle) == 0 || 
 
 int NamelessFile::nameBeside(const QString &path)
 {
-    const QFileInfo file(path);
-    const QByteArray name = QFile::encodeName(file.absolutePath() + QStringLiteral("/.") +
-                                              file.fileName() + QStringLiteral(".saving"));
     const std::string self = "/proc/self/fd/" + std::to_string(m_handle);
-    const auto isLinked = [&self, &name] {
-        return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0;
-    };
-    if (!isLinked() && (errno != EEXIST || ::unlink(name.constData()) != 0 || !isLinked()))
-        return errno;
-    m_name = name;
-    return 0;
+    for (int number = 0; number < mostNames; ++number) {
+        const QByteArray name = passingName(path, number);
+        if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
+            m_name = name;
+            return 0;
+        }
+        if (errno != EEXIST)
+            return errno;
+        // Another program may be about to put it in place.
+        removeIfLeftLongAgo(name);
+    }
+    return EEXIST;
 }
 
 int NamelessFile::takePlaceOf(const QString &path)

@@ -23,7 +23,8 @@ public:
     [[nodiscard]] int write(const QByteArray &bytes);
     /// Waits until the content is on the disk.
     [[nodiscard]] int flush() const;
-    /// Gives the file a name beside `path` that tells what it is; what a kill left there goes.
+    /// Gives the file a name beside `path` that tells what it is, and that no other file has; what
+    /// a kill left there long ago goes.
     [[nodiscard]] int nameBeside(const QString &path);
     /// Takes the place, and the permissions, of the file at `path`; after nameBeside() of it.
     [[nodiscard]] int takePlaceOf(const QString &path);

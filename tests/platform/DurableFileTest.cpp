@@ -57,6 +57,16 @@ protected:
         return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
     }
 
+    /// As another program has it while it saves.
+    void putPassingFile(const QDateTime &time) const
+    {
+        QFile file(path(".chart.crvgrab.saving"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("of another");
+        ASSERT_TRUE(file.flush());
+        ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+
 private:
     QTemporaryDir m_folder;
 };
@@ -139,9 +149,38 @@ TEST_F(DurableFileTest, aNewFileHasThePermissionsThatTheUserGivesNewFiles)
 TEST_F(DurableFileTest, whatAKillLeftBesideTheFileIsTakenAway)
 {
     ASSERT_EQ(durablefile::write(path(), "old"), std::nullopt);
-    ASSERT_EQ(durablefile::write(path(".chart.crvgrab.saving"), "left"), std::nullopt);
+    putPassingFile(QDateTime::currentDateTime().addDays(-2));
     ASSERT_EQ(durablefile::write(path(), "new"), std::nullopt);
     EXPECT_EQ(contentOf(path()), "new");
+    EXPECT_EQ(filesInFolder(), QStringList{"chart.crvgrab"});
+}
+
+TEST_F(DurableFileTest, whatAnotherProgramIsSavingIsLeftAlone)
+{
+    ASSERT_EQ(durablefile::write(path(), "old"), std::nullopt);
+    putPassingFile(QDateTime::currentDateTime());
+    ASSERT_EQ(durablefile::write(path(), "new"), std::nullopt);
+    EXPECT_EQ(contentOf(path()), "new");
+    EXPECT_EQ(contentOf(path(".chart.crvgrab.saving")), "of another");
+}
+
+TEST_F(DurableFileTest, programsThatSaveToOnePathDoNotDisturbEachOther)
+{
+    const auto saveOften = [this] {
+        for (int i = 0; i < 200; ++i) {
+            if (durablefile::write(path(), block(i)))
+                return false;
+        }
+        return true;
+    };
+    const pid_t other = fork();
+    if (other == 0)
+        _exit(saveOften() ? 0 : 1);
+    EXPECT_TRUE(saveOften());
+    int status = 0;
+    ASSERT_EQ(waitpid(other, &status, 0), other);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_TRUE(isWholeBlock(contentOf(path())));
     EXPECT_EQ(filesInFolder(), QStringList{"chart.crvgrab"});
 }
 
