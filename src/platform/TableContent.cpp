@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -16,12 +17,10 @@ QByteArray asCsv(const QString &text)
     lines.removeLast();
     std::string csv;
     for (const QString &line : lines) {
-        const char *separator = "";
-        for (const QString &field : line.split(u'\t')) {
-            csv += separator + csvfield::quoted(field.toStdString());
-            separator = ",";
-        }
-        csv += "\r\n";
+        std::vector<std::string> fields;
+        for (const QString &field : line.split(u'\t'))
+            fields.push_back(field.toStdString());
+        csv += csvfield::line(fields);
     }
     return QByteArray::fromStdString(csv);
 }

@@ -29,3 +29,8 @@ TEST(TableContent, quotesWhatAReaderOfCommaSeparatedValuesWouldTakeApart)
 {
     EXPECT_EQ(csvOf("a,b\tsay \"no\"\n"), "\"a,b\",\"say \"\"no\"\"\"\r\n");
 }
+
+TEST(TableContent, leavesAFieldOfCommaSeparatedValuesEmptyWhereThereIsNoNumber)
+{
+    EXPECT_EQ(csvOf("1\tinf\n-inf\t-nan\n"), "1,\r\n,\r\n");
+}
