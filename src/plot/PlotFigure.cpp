@@ -113,7 +113,9 @@ void addSeries(PlotFigure &figure, const PlotSeries &series, const Place &place)
     }
     figure.pointCount += static_cast<int>(shown.points.size());
     figure.leftOutCount += static_cast<int>(series.points.size() - shown.points.size());
-    figure.series.push_back(std::move(shown));
+    // A name in the legend that stands for nothing is looked for in vain.
+    if (!shown.points.empty())
+        figure.series.push_back(std::move(shown));
 }
 
 } // namespace

@@ -36,11 +36,11 @@ struct PlotFigureSeries
 struct PlotFigure
 {
     bool isPolar = false;
-    std::vector<PlotTick> xTicks; ///< of polar axes the angles
-    std::vector<PlotTick> yTicks; ///< of polar axes the radii
-    std::vector<PlotFigureSeries> series;
-    int pointCount = 0;   ///< shown
-    int leftOutCount = 0; ///< points that have no place on these axes
+    std::vector<PlotTick> xTicks;         ///< of polar axes the angles
+    std::vector<PlotTick> yTicks;         ///< of polar axes the radii
+    std::vector<PlotFigureSeries> series; ///< those of which something is shown
+    int pointCount = 0;                   ///< shown
+    int leftOutCount = 0;                 ///< points that have no place on these axes
 };
 
 namespace plotfigure {

@@ -175,6 +175,18 @@ TEST(PlotFigure, pointsOfOtherAxesAreLeftOutAndLeaveTheRangeAlone)
     const PlotFigure figure = plotfigure::of(content);
     EXPECT_EQ(figure.pointCount, 1);
     EXPECT_EQ(figure.leftOutCount, 2);
-    EXPECT_TRUE(figure.series[0].points.empty());
-    EXPECT_EQ(figure.series[1].points[0], QPointF(0.5, 0.2));
+    ASSERT_EQ(figure.series.size(), 1U);
+    EXPECT_EQ(figure.series[0].points[0], QPointF(0.5, 0.2));
+}
+
+TEST(PlotFigure, aSeriesOfWhichNothingIsShownIsNotNamed)
+{
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    PlotContent content = samplecontent::linear({{5, 2}});
+    content.series.push_back(samplecontent::series({{infinite, 2}, {5, -infinite}}));
+    content.series[1].name = QStringLiteral("nowhere");
+    const PlotFigure figure = plotfigure::of(content);
+    ASSERT_EQ(figure.series.size(), 1U);
+    EXPECT_NE(figure.series[0].name, QStringLiteral("nowhere"));
+    EXPECT_EQ(figure.leftOutCount, 2);
 }
