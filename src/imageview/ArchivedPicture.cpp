@@ -176,7 +176,8 @@ std::optional<PictureProblem> ArchivedPicture::decode(std::uint64_t memoryLimit,
         return PictureProblem::Damaged;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     QImageReader reader(&file, "png");
-    if (!reader.size().isEmpty() && !picturememory::fits(reader, memoryLimit))
+    const auto claim = picturememory::claim(reader, memoryLimit);
+    if (!claim && !reader.size().isEmpty())
         return PictureProblem::TooLarge;
     QImage pixels = reader.read();
     if (stop.stop_requested())

@@ -5,6 +5,8 @@
 #include <QPixelFormat>
 
 #include <algorithm>
+#include <atomic>
+#include <utility>
 
 namespace {
 
@@ -42,6 +44,9 @@ std::uint64_t neededBytes(const QImageReader &reader, std::uint64_t pixels)
     return pixels * (decoded + second) + pixels / 3;
 }
 
+/// The sum of all claims; what they stand for may be taken already, or not yet.
+std::atomic<std::uint64_t> claimed = 0;
+
 } // namespace
 
 std::uint64_t picturememory::available()
@@ -63,6 +68,27 @@ bool picturememory::fits(const QImageReader &reader, std::uint64_t bytes)
 {
     const std::uint64_t pixels = pixelsOf(reader.size());
     return pixels > 0 && neededBytes(reader, pixels) <= bytes;
+}
+
+picturememory::Claim::Claim(Claim &&other) noexcept
+    : m_bytes(std::exchange(other.m_bytes, 0))
+{}
+
+picturememory::Claim::~Claim() { claimed -= m_bytes; }
+
+std::optional<picturememory::Claim> picturememory::claim(const QImageReader &reader,
+                                                         std::uint64_t bytes)
+{
+    const std::uint64_t pixels = pixelsOf(reader.size());
+    if (pixels == 0)
+        return std::nullopt;
+    const std::uint64_t needed = neededBytes(reader, pixels);
+    std::uint64_t byOthers = claimed;
+    do {
+        if (needed > bytes || byOthers > bytes - needed)
+            return std::nullopt;
+    } while (!claimed.compare_exchange_weak(byOthers, byOthers + needed));
+    return Claim(needed);
 }
 
 bool picturememory::fits(const QImage &pixels, std::uint64_t bytes)

@@ -208,6 +208,11 @@ PictureReading PictureReader::read(const PictureSource &source, const std::stop_
     try {
         if (const auto problem = prepare(file, reader, source, m_memoryLimit))
             return {{}, problem, reader.device() != nullptr ? reader.size() : QSize()};
+        // What others have taken since the limit was measured counts too.
+        const auto claim =
+            picturememory::claim(reader, std::min(m_memoryLimit, picturememory::available()));
+        if (!claim && !isDrawing(reader.format()))
+            return {{}, PictureProblem::TooLarge, reader.size()};
         return decoded(file, reader, stop);
     } catch (const std::bad_alloc &) {
         return {{}, PictureProblem::TooLarge, {}};
