@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr int counterClockwiseId = 0;
-constexpr int clockwiseId = 1;
+constexpr int counterClockwiseButton = 0;
+constexpr int clockwiseButton = 1;
 
 ArchiveValue integerValue(std::int32_t value) { return {std::int64_t{value}}; }
 
@@ -71,7 +71,7 @@ bool CurrentAxes::loadFromData(const ArchiveDictionary *dictionary)
     m_outlets.logYCheck->setChecked(dictionary->boolForKey("Log Y Axis"));
     selectItem(*m_outlets.thetaRangePopup, dictionary->intForKey("Theta Range"));
     const bool counterClockwise = dictionary->boolForKey("CCW Direction");
-    m_outlets.rotDirRadio->button(counterClockwise ? counterClockwiseId : clockwiseId)
+    m_outlets.rotDirRadio->button(counterClockwise ? counterClockwiseButton : clockwiseButton)
         ->setChecked(true);
     awakeFromNib();
     replaceAxisDisplay();

@@ -19,9 +19,9 @@ namespace {
 
 // Registered CBOR tags: an object with its class name, a value that is referred to later, and a
 // reference to the n-th such value.
-constexpr auto objectTag = QCborTag(27);
-constexpr auto shareableTag = QCborTag(28);
-constexpr auto referenceTag = QCborTag(29);
+constexpr auto cborObject = QCborTag(27);
+constexpr auto cborShareable = QCborTag(28);
+constexpr auto cborReference = QCborTag(29);
 
 template <class T, class... Others>
 constexpr bool isOneOf = (std::is_same_v<T, Others> || ...);
@@ -126,11 +126,11 @@ private:
         if (m_places[one] > 1) {
             const auto [known, isNew] = m_numbers.try_emplace(one, m_numbers.size());
             if (!isNew) {
-                m_writer.append(referenceTag);
+                m_writer.append(cborReference);
                 m_writer.append(quint64{known->second});
                 return;
             }
-            m_writer.append(shareableTag);
+            m_writer.append(cborShareable);
         }
         writeValuesOf(*object);
     }
@@ -139,7 +139,7 @@ private:
     {
         SequentialEncoder coder;
         object.encodeWithCoder(coder);
-        m_writer.append(objectTag);
+        m_writer.append(cborObject);
         m_writer.startArray(1 + coder.items().size());
         write(std::string(object.className()));
         for (const ArchivedItem &item : coder.items())

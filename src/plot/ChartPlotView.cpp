@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int linesOnly = 2;
+constexpr int onlyLines = 2;
 constexpr int lightestGrey = 235;
 constexpr int lightGrey = 210;
 constexpr int darkGrey = 90;
@@ -40,7 +40,7 @@ bool haveSameFrame(const PlotFigure &a, const PlotFigure &b)
 QXYSeries *legendSeries(const PlotFigureSeries &series)
 {
     const QPen pen(series.color, series.thickness);
-    if (series.drawMode == linesOnly) {
+    if (series.drawMode == onlyLines) {
         auto line = std::make_unique<QLineSeries>();
         line->setPen(pen);
         line->setName(series.name);
