@@ -55,11 +55,11 @@ function(curvegrab_add_test name)
     endif()
     set(environment "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/support/screen.json;QT_SCALE_FACTOR=1;QT_LOGGING_RULES=qt.qpa.*=false")
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${environment}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
     if(ARG_X11)
         add_test(NAME ${name}-x11
             COMMAND ${PROJECT_SOURCE_DIR}/tests/support/in-xvfb $<TARGET_FILE:${name}>)
-        set_tests_properties(${name}-x11 PROPERTIES TIMEOUT 300 LABELS x11
+        set_tests_properties(${name}-x11 PROPERTIES TIMEOUT 600 LABELS x11
             ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_SCALE_FACTOR=1")
     endif()
 endfunction()
