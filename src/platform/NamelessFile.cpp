@@ -27,7 +27,7 @@ int numberUnless(bool succeeded) { return succeeded ? 0 : errno; }
 constexpr int mostNames = 100;
 
 /// A file has its passing name for less than a second, but clocks differ.
-constexpr std::time_t longAgo = 24 * 60 * 60;
+constexpr std::time_t longAgo = std::time_t(24) * 60 * 60;
 
 /// ".chart.crvgrab.saving", ".chart.crvgrab.1.saving" and so on.
 QByteArray passingName(const QString &path, int number)
