@@ -29,14 +29,15 @@ QString identityOf(const QString &path)
 
 /// What a crash left, read whole in any thread.
 std::optional<RecoveryStore::Document>
-readRecovered(const QString &key, const std::stop_token &stop, std::atomic<int> *percentDecoded)
+readRecovered(const QString &key, const std::stop_token &stop, std::atomic<int> *percentRead)
 {
     try {
-        std::optional<RecoveryStore::Document> recovered = RecoveryStore::read(key);
+        std::optional<RecoveryStore::Document> recovered =
+            RecoveryStore::read(key, stop, percentRead);
         if (!recovered || stop.stop_requested())
             return recovered;
         documentarchive::Reading reading{std::move(recovered->root), std::move(recovered->damages)};
-        documentfile::decodePicture(reading, picturememory::available(), stop, percentDecoded);
+        documentfile::decodePicture(reading, picturememory::available(), stop, percentRead);
         recovered->root = std::move(reading.root);
         recovered->damages = std::move(reading.damages);
         return recovered;

@@ -66,10 +66,11 @@ std::shared_ptr<const Archivable> encodedPicture(const QByteArray &content)
 }
 
 /// The picture that was kept in the file at `path`, or why there is none to be had.
-std::variant<std::shared_ptr<const Archivable>, PictureProblem> pictureFrom(const QString &path)
+std::variant<std::shared_ptr<const Archivable>, PictureProblem>
+pictureFrom(const QString &path, const std::stop_token &stop, std::atomic<int> *percentRead)
 {
     if (rawpicture::isRaw(path)) {
-        auto read = rawpicture::read(path, picturememory::available());
+        auto read = rawpicture::read(path, picturememory::available(), stop, percentRead);
         if (auto *picture = std::get_if<Picture>(&read))
             return std::make_shared<ArchivedPicture>(std::move(*picture));
         return std::get<PictureProblem>(read);
@@ -80,9 +81,9 @@ std::variant<std::shared_ptr<const Archivable>, PictureProblem> pictureFrom(cons
     return encodedPicture(content.bytes);
 }
 
-void putPicture(RecoveryStore::Document &document, const QString &path)
+void putPicture(RecoveryStore::Document &document,
+                const std::variant<std::shared_ptr<const Archivable>, PictureProblem> &picture)
 {
-    const auto picture = pictureFrom(path);
     if (const auto *problem = std::get_if<PictureProblem>(&picture)) {
         const auto fault = *problem == PictureProblem::TooLarge
                                ? documentarchive::Fault::PictureTooLarge
@@ -181,14 +182,15 @@ std::optional<RecoveryStore::Document> RecoveryStore::readWithoutPicture(const Q
     return document;
 }
 
-std::optional<RecoveryStore::Document> RecoveryStore::read(const QString &key)
+std::optional<RecoveryStore::Document>
+RecoveryStore::read(const QString &key, const std::stop_token &stop, std::atomic<int> *percentRead)
 {
     std::optional<Document> document = readWithoutPicture(key);
     if (!document)
         return std::nullopt;
     const QString pictureName = QString::fromStdString(document->root.stringForKey(pictureKey));
     if (!pictureName.isEmpty())
-        putPicture(*document, picturePath(key, pictureName));
+        putPicture(*document, pictureFrom(picturePath(key, pictureName), stop, percentRead));
     return document;
 }
 

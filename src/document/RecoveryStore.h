@@ -7,8 +7,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 class ArchivedPicture;
@@ -39,9 +41,12 @@ public:
 
     /// What programs left that ended without warning. Nobody else is offered it meanwhile.
     [[nodiscard]] QStringList remains();
-    /// What is kept under `key`, as far as it can be read; nothing if it is no document. May run in
-    /// any thread.
-    [[nodiscard]] static std::optional<Document> read(const QString &key);
+    /// What is kept under `key`, as far as it can be read; nothing if it is no document. A picture
+    /// that is not encoded is left out after `stop` was requested, and `percentRead`, which may be
+    /// null, follows its progress. May run in any thread.
+    [[nodiscard]] static std::optional<Document> read(const QString &key,
+                                                      const std::stop_token &stop = {},
+                                                      std::atomic<int> *percentRead = nullptr);
     /// The same without the picture, which takes longest.
     [[nodiscard]] static std::optional<Document> readWithoutPicture(const QString &key);
 

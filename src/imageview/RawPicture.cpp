@@ -1,7 +1,9 @@
 #include "imageview/RawPicture.h"
 
+#include "imageview/PictureFile.h"
 #include "imageview/PictureMemory.h"
 #include "imageview/PictureReader.h"
+#include "imageview/PictureSource.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -41,9 +43,11 @@ bool rawpicture::write(const Picture &picture, QIODevice &device)
 }
 
 std::variant<Picture, PictureProblem> rawpicture::read(const QString &path,
-                                                       std::uint64_t memoryLimit)
+                                                       std::uint64_t memoryLimit,
+                                                       const std::stop_token &stop,
+                                                       std::atomic<int> *percentRead)
 {
-    QFile file(path);
+    PictureFile file(path, stop, percentRead);
     if (!file.open(QIODevice::ReadOnly))
         return PictureProblem::Damaged;
     QDataStream stream(&file);
@@ -55,9 +59,12 @@ std::variant<Picture, PictureProblem> rawpicture::read(const QString &path,
         return PictureProblem::Damaged;
     QImageReader::setAllocationLimit(0); // the size is compared with the memory here instead
     QImageReader reader(&file, "ppm");
-    if (!picturememory::fits(reader, memoryLimit))
+    const auto claim = picturememory::claim(reader, memoryLimit);
+    if (!claim)
         return reader.size().isValid() ? PictureProblem::TooLarge : PictureProblem::Damaged;
     QImage pixels = reader.read();
+    if (stop.stop_requested())
+        return PictureProblem::Cancelled;
     if (pixels.isNull())
         return PictureProblem::Damaged;
     if (auto picture = Picture::fromPixels(std::move(pixels), size))

@@ -4,7 +4,9 @@
 
 #include <QString>
 
+#include <atomic>
 #include <cstdint>
+#include <stop_token>
 #include <variant>
 
 class QIODevice;
@@ -20,9 +22,12 @@ namespace rawpicture {
 /// False if `device` does not take it.
 [[nodiscard]] bool write(const Picture &picture, QIODevice &device);
 
-/// The picture, or why there is none: the file is damaged, or needs more than `memoryLimit` bytes.
-/// May run in any thread.
+/// The picture, or why there is none: the file is damaged, needs more than `memoryLimit` bytes, or
+/// `stop` was requested. `percentRead`, which may be null, follows the progress. May run in any
+/// thread.
 [[nodiscard]] std::variant<Picture, PictureProblem> read(const QString &path,
-                                                         std::uint64_t memoryLimit);
+                                                         std::uint64_t memoryLimit,
+                                                         const std::stop_token &stop = {},
+                                                         std::atomic<int> *percentRead = nullptr);
 
 } // namespace rawpicture

@@ -100,3 +100,21 @@ TEST_F(RawPictureTest, aDeviceThatTakesNothingIsTold)
     QBuffer closed;
     EXPECT_FALSE(rawpicture::write(sample(QImage::Format_RGB32), closed));
 }
+
+TEST_F(RawPictureTest, tellsHowFarItHasCome)
+{
+    put(sample(QImage::Format_RGB32));
+    std::atomic<int> percent = 0;
+    const auto read = rawpicture::read(path(), plenty, {}, &percent);
+    EXPECT_TRUE(std::holds_alternative<Picture>(read));
+    EXPECT_EQ(percent, 100);
+}
+
+TEST_F(RawPictureTest, leavesOffWhenNobodyWantsIt)
+{
+    put(sample(QImage::Format_RGB32));
+    std::stop_source stop;
+    stop.request_stop();
+    const auto read = rawpicture::read(path(), plenty, stop.get_token());
+    EXPECT_TRUE(std::holds_alternative<PictureProblem>(read));
+}
