@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -23,8 +24,14 @@ namespace {
 constexpr const char *columnWidthsKey = "Column Widths";
 constexpr qreal cellFontSize = 10;
 constexpr int minimumColumnWidth = 24;
-/// Left and right of the text that fits a column at first.
+/// Left and right of the text that fits a column.
 constexpr int cellPadding = 12;
+
+/// The width that a column needs for `text`.
+int widthFor(const QString &text, const QFontMetrics &metrics)
+{
+    return metrics.horizontalAdvance(text) + cellPadding;
+}
 
 /// Paints the cells of the selected columns as selected.
 class CellDelegate : public QStyledItemDelegate
@@ -85,11 +92,18 @@ DataTableView::DataTableView(QWidget *parent)
 
 void DataTableView::setUpHeaders()
 {
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("(-0.123, -1.23e+03)"));
     m_header->setMinimumSectionSize(minimumColumnWidth);
-    m_header->setDefaultSectionSize(width + cellPadding);
     m_header->setMinimumHeight(m_header->sizeHint().height());
     connect(m_header, &DataTableHeader::columnPressed, this, &DataTableView::pressColumn);
+    connect(m_header, &QHeaderView::sectionResized, this, [this](int column) {
+        if (!m_isWidening)
+            chooseWidth(column);
+    });
+    // After the platform's table, which has fitted the column to its texts by now.
+    connect(m_header, &QHeaderView::sectionHandleDoubleClicked, this, [this](int column) {
+        m_columnsOfChosenWidth.erase(column);
+        widenToTexts();
+    });
 
     verticalHeader()->setSectionsClickable(false);
     verticalHeader()->setHighlightSections(false);
@@ -326,9 +340,14 @@ void DataTableView::noteNumberOfRowsChanged()
 {
     m_model->noteNumberOfRowsChanged();
     viewport()->update();
+    widenToTexts();
 }
 
-void DataTableView::reloadData() { m_model->reloadData(); }
+void DataTableView::reloadData()
+{
+    m_model->reloadData();
+    widenToTexts();
+}
 
 void DataTableView::reloadMarkers() { m_model->reloadMarkers(); }
 
@@ -350,6 +369,7 @@ void DataTableView::scrollColumnToVisible(int column)
 void DataTableView::showEvent(QShowEvent *event)
 {
     QTableView::showEvent(event);
+    widenToTexts();
     const int column = std::exchange(m_columnToShow, -1);
     if (column < 0)
         return;
@@ -370,6 +390,62 @@ bool DataTableView::viewportEvent(QEvent *event)
         }
     }
     return QTableView::viewportEvent(event);
+}
+
+void DataTableView::setWidthOfEmptyColumns(int width)
+{
+    const QScopedValueRollback isWidening(m_isWidening, true);
+    m_header->setDefaultSectionSize(width);
+    m_columnsOfChosenWidth.clear();
+}
+
+// A document has all widths, also those that nobody chose.
+void DataTableView::chooseWidth(int column)
+{
+    if (m_header->sectionSize(column) == m_header->defaultSectionSize())
+        m_columnsOfChosenWidth.erase(column);
+    else
+        m_columnsOfChosenWidth.insert(column);
+}
+
+void DataTableView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    widenToTexts();
+}
+
+void DataTableView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    widenToTexts();
+}
+
+// A column never becomes narrower by itself: it would go to and fro under the pointer.
+void DataTableView::widenToTexts()
+{
+    if (m_isWidening)
+        return;
+    const QScopedValueRollback isWidening(m_isWidening, true);
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (!m_columnsOfChosenWidth.contains(column))
+            m_header->resizeSection(
+                column, std::max(m_header->sectionSize(column), widthOfTextsIn(column)));
+    }
+}
+
+/// Of those in the rows that are seen: there may be many more.
+int DataTableView::widthOfTextsIn(int column) const
+{
+    if (columnViewportPosition(column) >= viewport()->width())
+        return 0;
+    const int first = rowAt(0);
+    const int end = rowAt(viewport()->height());
+    const int last = end < 0 ? m_model->rowCount() - 1 : end;
+    int width = 0;
+    for (int row = first; row >= 0 && row <= last; ++row)
+        width =
+            std::max(width, widthFor(m_model->index(row, column).data().toString(), fontMetrics()));
+    return width;
 }
 
 ArchiveDictionary DataTableView::dataForSave() const
@@ -396,6 +472,7 @@ bool DataTableView::loadFromData(const ArchiveDictionary *dictionary)
         const int atLeast = std::max(width, m_header->minimumSectionSize());
         m_header->resizeSection(m_header->logicalIndex(visual),
                                 std::min(atLeast, m_header->maximumSectionSize()));
+        chooseWidth(m_header->logicalIndex(visual));
     }
     return true;
 }

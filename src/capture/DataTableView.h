@@ -49,6 +49,11 @@ public:
     /// The styles of the series were changed.
     void reloadMarkers();
 
+    /// How wide columns are before there is something in them. From then on a column is as wide as
+    /// the widest of the texts that were seen in it, until somebody chooses its width; a double
+    /// click on the edge of its title leaves the choice to the texts again.
+    void setWidthOfEmptyColumns(int width);
+
     /// The column widths.
     [[nodiscard]] ArchiveDictionary dataForSave() const;
     /// False without a dictionary.
@@ -72,6 +77,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     bool viewportEvent(QEvent *event) override;
@@ -88,6 +95,9 @@ private:
     bool scrollByKey(int key);
     void setSelectedColumns(IndexSet columns);
     void describeSelection();
+    void chooseWidth(int column);
+    void widenToTexts();
+    [[nodiscard]] int widthOfTextsIn(int column) const;
 
     DataTableModel *m_model;
     DataTableHeader *m_header;
@@ -95,6 +105,8 @@ private:
     IndexSet m_selectedColumns;
     int m_lastClickedCol = -1;
     int m_currentColumn = -1;
+    IndexSet m_columnsOfChosenWidth;
+    bool m_isWidening = false; ///< a width that changes meanwhile was not chosen
     /// Where a drag of the selected columns would begin.
     std::optional<QPoint> m_dragStart;
     /// The column that a release without a drag will press; -1 without one.

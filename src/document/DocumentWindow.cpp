@@ -10,7 +10,6 @@
 #include "platform/Texts.h"
 #include "ui_MyDocument.h"
 
-#include <QAbstractItemModel>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QEvent>
@@ -23,7 +22,7 @@
 #include <initializer_list>
 
 namespace {
-// Two series stand side by side in the drawer; a wider column is one drag away.
+// Two series stand side by side in the drawer, as far as their numbers allow.
 constexpr int columnWidth = 97;
 // Less would leave hardly any picture.
 constexpr int smallestHeight = 400;
@@ -40,8 +39,7 @@ DocumentWindow::DocumentWindow(MyDocument &document)
     m_ui->dataTableDrawer->setContent(m_ui->dataTableView);
     m_ui->rotDirRadio->setId(m_ui->counterClockwiseRadio, 0);
     m_ui->rotDirRadio->setId(m_ui->clockwiseRadio, 1);
-    for (int column = 0; column < m_ui->dataTableView->model()->columnCount(); ++column)
-        m_ui->dataTableView->setColumnWidth(column, columnWidth);
+    m_ui->dataTableView->setWidthOfEmptyColumns(columnWidth);
     m_status = new StatusLine(this);
     m_ui->statusBar->addWidget(m_status, 1);
     m_emptyHint = new EmptyPictureHint(m_ui->pictureScrollArea);

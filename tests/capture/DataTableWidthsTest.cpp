@@ -15,6 +15,37 @@ ArchiveDictionary widths(const std::vector<ArchiveValue> &values)
     return saved;
 }
 
+constexpr int ofEmptyColumns = 30;
+constexpr int rows = 100'000;
+
+/// A table of which only the top can be seen, with texts that grow longer from row to row.
+class DataTableViewTexts : public ::testing::Test
+{
+protected:
+    DataTableViewTexts()
+    {
+        table.setWidthOfEmptyColumns(ofEmptyColumns);
+        table.setDataSource(source, prefs);
+        table.resize(400, 300);
+        table.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&table));
+    }
+
+    void setRows(int count)
+    {
+        source.counts[0] = count;
+        table.noteNumberOfRowsChanged();
+    }
+    bool fits(const QString &text, int column) const
+    {
+        return table.columnWidth(column) > table.fontMetrics().horizontalAdvance(text);
+    }
+
+    CountedSource source;
+    GreenPrefs prefs;
+    DataTableView table;
+};
+
 ArchiveValue number(int value) { return ArchiveValue{std::int64_t{value}}; }
 
 } // namespace
@@ -93,4 +124,68 @@ TEST_F(DataTableViewWidths, stayWithoutADictionary)
 {
     EXPECT_FALSE(table.loadFromData(nullptr));
     EXPECT_EQ(table.columnWidth(0), 60);
+}
+
+TEST_F(DataTableViewTexts, widenTheirColumn)
+{
+    setRows(3);
+    EXPECT_TRUE(fits("s0r2", 0));
+    EXPECT_EQ(table.columnWidth(1), ofEmptyColumns);
+}
+
+TEST_F(DataTableViewTexts, widenTheirColumnAsTheyComeIntoView)
+{
+    setRows(rows);
+    const int before = table.columnWidth(0);
+    QTest::keyClick(&table, Qt::Key_End);
+    EXPECT_GT(table.columnWidth(0), before);
+    EXPECT_TRUE(fits("s0r99999", 0));
+    QTest::keyClick(&table, Qt::Key_Home);
+    EXPECT_TRUE(fits("s0r99999", 0));
+}
+
+TEST_F(DataTableViewTexts, areMeasuredOnlyWhereTheyAreSeen)
+{
+    setRows(rows);
+    source.asked = 0;
+    table.noteNumberOfRowsChanged();
+    const int seen = table.viewport()->height() / table.rowHeight(0) + 2;
+    EXPECT_LE(source.asked, 10 * seen);
+}
+
+TEST_F(DataTableViewTexts, leaveAWidthThatWasChosen)
+{
+    table.setColumnWidth(0, 26);
+    setRows(3);
+    EXPECT_EQ(table.columnWidth(0), 26);
+}
+
+TEST_F(DataTableViewTexts, leaveTheWidthsOfADocument)
+{
+    const ArchiveDictionary saved = widths({number(26), number(26)});
+    EXPECT_TRUE(table.loadFromData(&saved));
+    setRows(3);
+    EXPECT_EQ(table.columnWidth(0), 26);
+}
+
+TEST_F(DataTableViewTexts, widenColumnsOfADocumentThatNobodyWidened)
+{
+    const ArchiveDictionary saved = widths({number(ofEmptyColumns), number(26)});
+    EXPECT_TRUE(table.loadFromData(&saved));
+    EXPECT_EQ(table.columnWidth(0), ofEmptyColumns);
+    setRows(3);
+    EXPECT_TRUE(fits("s0r2", 0));
+}
+
+TEST_F(DataTableViewTexts, doubleClickOnTheEdgeLeavesTheWidthToThemAgain)
+{
+    setRows(3);
+    table.setColumnWidth(0, 200);
+    const QPoint edge(199, table.horizontalHeader()->height() / 2);
+    QTest::mouseDClick(table.horizontalHeader()->viewport(), Qt::LeftButton, {}, edge);
+    EXPECT_LT(table.columnWidth(0), 100);
+    EXPECT_TRUE(fits("s0r2", 0));
+    setRows(rows);
+    QTest::keyClick(&table, Qt::Key_End);
+    EXPECT_TRUE(fits("s0r99999", 0));
 }
