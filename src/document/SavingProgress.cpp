@@ -2,8 +2,11 @@
 
 #include "platform/Texts.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QToolButton>
 
@@ -11,6 +14,14 @@ namespace {
 
 constexpr int widthOfBar = 90;
 constexpr int mostCharactersOfName = 24;
+
+/// Whether Escape may be meant for what the user is in the middle of: a drag, or a field whose text
+/// was changed.
+bool isInTheMiddle(const QWidget &window)
+{
+    const auto *field = qobject_cast<const QLineEdit *>(window.focusWidget());
+    return QGuiApplication::mouseButtons() != Qt::NoButton || (field && field->isModified());
+}
 
 } // namespace
 
@@ -60,4 +71,28 @@ void SavingProgress::showStep(const char *textKey, const QString &fileName)
     const QString name = fontMetrics().elidedText(fileName, Qt::ElideMiddle, most);
     m_label->setText(texts::localized(textKey).replace(QStringLiteral("%1"), name));
     show();
+}
+
+void SavingProgress::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    window()->installEventFilter(this);
+}
+
+void SavingProgress::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    window()->removeEventFilter(this);
+}
+
+// A key comes to the window when all from the one with the focus up to here have left it.
+bool SavingProgress::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || watched != window() || m_cancelButton->isHidden())
+        return QWidget::eventFilter(watched, event);
+    const bool isMeant =
+        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel) && !isInTheMiddle(*window());
+    if (isMeant)
+        Q_EMIT cancelled();
+    return isMeant;
 }

@@ -7,7 +7,7 @@ class QString;
 class QToolButton;
 
 /// The corner of the status bar that says what a long save is doing. The window goes on working
-/// meanwhile, so it covers nothing.
+/// meanwhile, so it covers nothing, and takes no keys but Escape.
 class SavingProgress : public QWidget
 {
     Q_OBJECT
@@ -22,6 +22,12 @@ public:
 
 Q_SIGNALS:
     void cancelled();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    /// Escape cancels, where nobody else in the window has used it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showStep(const char *textKey, const QString &fileName);

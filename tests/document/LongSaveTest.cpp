@@ -133,6 +133,15 @@ TEST_F(LongSave, cancelledLeavesTheFileAndTheDocumentAsTheyWere)
     EXPECT_TRUE(unarchived(contentOf(path)).isWhole());
 }
 
+TEST_F(LongSave, isCancelledByEscape)
+{
+    ASSERT_TRUE(showsProgress());
+    QTest::keyClick(&test.document->graphView(), Qt::Key_Escape);
+    EXPECT_FALSE(progress().isVisible());
+    ASSERT_TRUE(pictureIsEncoded());
+    EXPECT_EQ(contentOf(path), "old");
+}
+
 TEST_F(LongSave, cancelledTakesBackTheClosingThatWaitedForIt)
 {
     EXPECT_FALSE(test.document->window().close());

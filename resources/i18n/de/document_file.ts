@@ -82,8 +82,8 @@
         <translation>Das Bild von „%1“ wird vorbereitet…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>Das Speichern abbrechen; die Datei bleibt, wie sie war</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>Das Speichern abbrechen; die Datei bleibt, wie sie war (Esc)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>

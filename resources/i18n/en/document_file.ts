@@ -82,8 +82,8 @@
         <translation>Preparing the picture of “%1”…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>Stop saving; the file stays as it was</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>Stop saving; the file stays as it was (Esc)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>

@@ -82,8 +82,8 @@
         <translation>Preparando la imagen de «%1»…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>Dejar de guardar; el archivo queda como estaba</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>Dejar de guardar; el archivo queda como estaba (Esc)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>

@@ -82,8 +82,8 @@
         <translation>Préparation de l’image de « %1 »…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>Arrêter l’enregistrement ; le fichier reste tel qu’il était</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>Arrêter l’enregistrement ; le fichier reste tel qu’il était (Échap)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>

@@ -82,8 +82,8 @@
         <translation>「%1」の画像を準備しています…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>保存を中止します。ファイルは元のまま残ります</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>保存を中止します。ファイルは元のまま残ります (Esc)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>

@@ -82,8 +82,8 @@
         <translation>正在准备“%1”的图片…</translation>
     </message>
     <message id="document.saving.cancelTip">
-        <source>Stop saving; the file stays as it was</source>
-        <translation>停止保存；文件保持原样</translation>
+        <source>Stop saving; the file stays as it was (Esc)</source>
+        <translation>停止保存；文件保持原样 (Esc)</translation>
     </message>
     <message id="document.saving.progressName">
         <source>Progress of saving</source>
