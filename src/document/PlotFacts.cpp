@@ -32,6 +32,15 @@ bool runsBackwards(float usualComponent, float otherComponent)
                                                                   : otherComponent < 0;
 }
 
+/// A chart that lies on its side, and is no mirror image: it is shown upright.
+bool isTurned(FloatPoint alongX, FloatPoint alongY)
+{
+    const bool xRunsUpright = std::fabs(alongX.y) > std::fabs(alongX.x);
+    const bool yRunsLevel = std::fabs(alongY.x) > std::fabs(alongY.y);
+    const double area = double(alongX.x) * double(alongY.y) - double(alongX.y) * double(alongY.x);
+    return xRunsUpright && yRunsLevel && area > 0;
+}
+
 /// `backwards` is the way from the first to the last value; the ranges of a plot run from the low
 /// value to the high one.
 PlotAxis axisOf(double first, double last, bool isLogarithmic, bool backwards)
@@ -57,10 +66,11 @@ void takeAxes(PlotContent &content, const CurrentAxes &axes)
     const FloatPoint alongX = way(anchors[0], anchors[1]);
     const FloatPoint alongY = way(anchors[0], anchors[3]);
     content.isPolar = axes.axisType() == axistype::polar;
-    content.x =
-        axisOf(axes.minXValue(), axes.maxXValue(), axes.logX(), runsBackwards(alongX.x, alongX.y));
-    content.y =
-        axisOf(axes.minYValue(), axes.maxYValue(), axes.logY(), runsBackwards(alongY.y, alongY.x));
+    const bool turned = isTurned(alongX, alongY);
+    content.x = axisOf(axes.minXValue(), axes.maxXValue(), axes.logX(),
+                       !turned && runsBackwards(alongX.x, alongX.y));
+    content.y = axisOf(axes.minYValue(), axes.maxYValue(), axes.logY(),
+                       !turned && runsBackwards(alongY.y, alongY.x));
     content.angles = {std::atan2(double(alongX.y), double(alongX.x)), axes.rotCCW(),
                       axes.thetaRange() < firstRangeInRadians,
                       axes.thetaRange() == signedDegrees || axes.thetaRange() == signedRadians};

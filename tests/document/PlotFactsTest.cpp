@@ -115,6 +115,19 @@ TEST(PlotFacts, anAxisThatRunsUprightIsReversedOnlyDownwards)
     }
 }
 
+TEST(PlotFacts, aChartThatWasTurnedIsNotMirrored)
+{
+    TestDocument test;
+    CurrentAxes &axes = test.document->currentAxes();
+    const std::vector<FloatPoint> toTheLeft{{400, 100}, {402, 300}, {200, 302}, {200, 102}};
+    const std::vector<FloatPoint> toTheRight{{200, 300}, {198, 100}, {400, 98}, {400, 298}};
+    for (const auto &anchors : {toTheLeft, toTheRight}) {
+        axes.setAnchors(anchors);
+        EXPECT_FALSE(plotfacts::of(*test.document).x.isReversed) << anchors[0].x;
+        EXPECT_FALSE(plotfacts::of(*test.document).y.isReversed) << anchors[0].x;
+    }
+}
+
 TEST(PlotFacts, valuesThatFallAlongAnAxisRunTheOtherWay)
 {
     TestDocument test;
