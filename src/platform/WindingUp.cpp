@@ -9,12 +9,14 @@ namespace {
 
 using windingup::Worker;
 
-/// How long the end of the program waits for a thread.
+using Clock = std::chrono::steady_clock;
+
+/// How long the end of the program waits for all threads.
 constexpr std::chrono::seconds longestWindingUp{5};
 
-bool joined(Worker &worker, std::chrono::seconds patience)
+bool joined(Worker &worker, Clock::time_point patienceEnds)
 {
-    if (worker.ended.wait_for(patience) != std::future_status::ready)
+    if (worker.ended.wait_until(patienceEnds) != std::future_status::ready)
         return false;
     worker.thread.join();
     return true;
@@ -28,8 +30,9 @@ public:
     LeftWorkers &operator=(const LeftWorkers &) = delete;
     ~LeftWorkers()
     {
+        const Clock::time_point patienceEnds = Clock::now() + longestWindingUp;
         for (Worker &worker : m_workers)
-            if (!joined(worker, longestWindingUp))
+            if (!joined(worker, patienceEnds))
                 worker.thread.detach();
     }
 
@@ -37,7 +40,7 @@ public:
     {
         m_workers.push_back(std::move(worker));
         for (auto old = m_workers.begin(); old != m_workers.end();)
-            old = joined(*old, {}) ? m_workers.erase(old) : std::next(old);
+            old = joined(*old, Clock::now()) ? m_workers.erase(old) : std::next(old);
     }
 
 private:
@@ -65,5 +68,7 @@ void leave(Worker worker)
     static LeftWorkers workers;
     workers.add(std::move(worker));
 }
+
+void forsake(Worker worker) { worker.thread.detach(); }
 
 } // namespace windingup

@@ -12,6 +12,11 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <memory>
+
 namespace {
 
 constexpr int patience = 20'000; // milliseconds
@@ -74,6 +79,58 @@ TEST_F(RecentThumbnailsTest, aFileThatVanishedGetsThePlainIcon)
     ASSERT_TRUE(QTest::qWaitFor([&] { return changed.count() == 2; }, patience));
     EXPECT_FALSE(isRed(thumbnails.iconOf(path)));
     EXPECT_FALSE(thumbnails.iconOf(path).isNull());
+}
+
+TEST_F(RecentThumbnailsTest, ofAFileThatHangsHoldUpNoOthers)
+{
+    const auto hanging = std::make_shared<std::promise<void>>();
+    const auto begun = std::make_shared<std::atomic<int>>(0);
+    const auto make = [begun, until = hanging->get_future().share()](
+                          const QString &path, const QString &, const std::stop_token &) {
+        if (path == QStringLiteral("hanging")) {
+            ++*begun;
+            until.wait();
+        }
+        QImage picture(thumbnailfile::side, thumbnailfile::side, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        return picture;
+    };
+    RecentThumbnails thumbnails(folder(), make, std::chrono::milliseconds(10));
+    const QStringList paths{QStringLiteral("hanging"), QStringLiteral("a"), QStringLiteral("b")};
+    QSignalSpy changed(&thumbnails, &RecentThumbnails::iconChanged);
+    for (const int pictures : {2, 4}) {
+        thumbnails.prepare(paths);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return changed.count() == pictures; }, patience));
+        EXPECT_FALSE(isRed(thumbnails.iconOf(paths.at(0))));
+        EXPECT_TRUE(isRed(thumbnails.iconOf(paths.at(2))));
+    }
+    EXPECT_EQ(*begun, 1);
+    hanging->set_value();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return changed.count() == 5; }, patience));
+    EXPECT_TRUE(isRed(thumbnails.iconOf(paths.at(0))));
+}
+
+TEST_F(RecentThumbnailsTest, ofAFileThatHangsDoNotHoldUpTheEnd)
+{
+    const auto hanging = std::make_shared<std::promise<void>>();
+    const auto ended = std::make_shared<std::promise<void>>();
+    const auto make = [ended, until = hanging->get_future().share()](
+                          const QString &path, const QString &, const std::stop_token &) {
+        if (path == QStringLiteral("hanging")) {
+            until.wait();
+            ended->set_value();
+        }
+        return QImage(1, 1, QImage::Format_RGB32);
+    };
+    {
+        RecentThumbnails thumbnails(folder(), make, std::chrono::milliseconds(10));
+        const QSignalSpy changed(&thumbnails, &RecentThumbnails::iconChanged);
+        thumbnails.prepare({QStringLiteral("hanging"), QStringLiteral("a")});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return changed.count() == 1; }, patience));
+    }
+    hanging->set_value();
+    EXPECT_EQ(ended->get_future().wait_for(std::chrono::milliseconds(patience)),
+              std::future_status::ready);
 }
 
 TEST_F(RecentThumbnailsTest, areForgottenOnTheDiskToo)
