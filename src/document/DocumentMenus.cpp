@@ -5,6 +5,7 @@
 #include "document/MenuRules.h"
 #include "document/MyDocument.h"
 #include "document/RecentFilesMenu.h"
+#include "document/UndoStepsMenu.h"
 #include "document/WindowListMenu.h"
 #include "imageview/GraphImageView.h"
 #include "imageview/MouseDownMode.h"
@@ -148,6 +149,8 @@ void DocumentMenus::addEditMenu()
                         noRule,
                         {keys("Ctrl+Shift+Z"), keys("Ctrl+Y")},
                         &MyDocument::redo});
+    new UndoStepsMenu(m_document, menu, UndoStepsMenu::Way::Undo);
+    new UndoStepsMenu(m_document, menu, UndoStepsMenu::Way::Redo);
     menu->addSeparator();
     add(menu, {"copy",
                "document.command.copy",

@@ -67,6 +67,24 @@ QString UndoManager::redoActionName() const
     return m_redoGroups.empty() ? QString() : m_redoGroups.back().name;
 }
 
+QStringList UndoManager::undoActionNames() const
+{
+    QStringList names = namesFromLast(m_undoGroups);
+    if (!m_openGroup.actions.empty())
+        names.prepend(m_openGroup.name);
+    return names;
+}
+
+QStringList UndoManager::redoActionNames() const { return namesFromLast(m_redoGroups); }
+
+QStringList UndoManager::namesFromLast(const std::vector<Group> &groups)
+{
+    QStringList names;
+    for (auto group = groups.rbegin(); group != groups.rend(); ++group)
+        names += group->name;
+    return names;
+}
+
 void UndoManager::registerUndo(Target target, std::function<void()> inverse)
 {
     if (m_running != Running::Nothing) {

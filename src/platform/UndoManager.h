@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -35,6 +36,10 @@ public:
     /// The name of the group that undo (redo) would run next; empty without one.
     [[nodiscard]] QString undoActionName() const;
     [[nodiscard]] QString redoActionName() const;
+
+    /// The names of all groups that undo (redo) would run, the next one first.
+    [[nodiscard]] QStringList undoActionNames() const;
+    [[nodiscard]] QStringList redoActionNames() const;
 
     /// Registers the inverse of a change to `target`: on the undo history, or on the
     /// redo history while undo runs. A new change outside undo and redo drops the redo history.
@@ -83,6 +88,7 @@ private:
     void closeGroupLater();
     void run(std::vector<Group> &from, std::vector<Group> &to, Running what, ChangeKind kind);
 
+    static QStringList namesFromLast(const std::vector<Group> &groups);
     static void removeActions(Target target, std::vector<Group> &groups);
 
     std::vector<Group> m_undoGroups;

@@ -51,6 +51,36 @@ using Kinds = std::vector<ChangeKind>;
 
 } // namespace
 
+TEST_F(UndoManagerTest, theNamesOfWhatCanBeUndoneBeginWithTheLast)
+{
+    change(m_a, 1, QStringLiteral("first"));
+    change(m_a, 2, QStringLiteral("second"));
+    EXPECT_EQ(m_undo.undoActionNames(), QStringList({"second", "first"}));
+}
+
+TEST_F(UndoManagerTest, theNameOfTheOpenGroupIsTheFirstOfAll)
+{
+    change(m_a, 1, QStringLiteral("closed"));
+    m_a.set(2);
+    m_undo.setActionName(QStringLiteral("open"));
+    EXPECT_EQ(m_undo.undoActionNames(), QStringList({"open", "closed"}));
+}
+
+TEST_F(UndoManagerTest, aNameWithoutAnythingToUndoIsNotListed)
+{
+    m_undo.setActionName(QStringLiteral("nothing"));
+    EXPECT_EQ(m_undo.undoActionNames(), QStringList());
+}
+
+TEST_F(UndoManagerTest, theNamesOfWhatCanBeRedoneBeginWithTheNext)
+{
+    change(m_a, 1, QStringLiteral("first"));
+    change(m_a, 2, QStringLiteral("second"));
+    m_undo.undo();
+    m_undo.undo();
+    EXPECT_EQ(m_undo.redoActionNames(), QStringList({"first", "second"}));
+}
+
 TEST_F(UndoManagerTest, aFreshHistoryIsEmpty)
 {
     EXPECT_FALSE(m_undo.canUndo());

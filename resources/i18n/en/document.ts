@@ -515,6 +515,20 @@
         <source>&amp;Redo %1</source>
         <translation>&amp;Redo %1</translation>
     </message>
+    <message id="document.command.undoSteps">
+        <source>Undo &amp;Several Steps</source>
+        <extracomment>a submenu that lists the steps that can be taken back</extracomment>
+        <translation>Undo &amp;Several Steps</translation>
+    </message>
+    <message id="document.command.redoSteps">
+        <source>Redo Se&amp;veral Steps</source>
+        <translation>Redo Se&amp;veral Steps</translation>
+    </message>
+    <message id="document.undo.step">
+        <source>%1. %2</source>
+        <extracomment>%1 is a number of steps, %2 the name of one of them, such as Add Point</extracomment>
+        <translation>%1. %2</translation>
+    </message>
     <message id="document.command.copy">
         <source>&amp;Copy Selected Series</source>
         <translation>&amp;Copy Selected Series</translation>

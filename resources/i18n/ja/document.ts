@@ -515,6 +515,20 @@
         <source>&amp;Redo %1</source>
         <translation>やり直す: %1(&amp;R)</translation>
     </message>
+    <message id="document.command.undoSteps">
+        <source>Undo &amp;Several Steps</source>
+        <extracomment>a submenu that lists the steps that can be taken back</extracomment>
+        <translation>複数の操作を元に戻す(&amp;S)</translation>
+    </message>
+    <message id="document.command.redoSteps">
+        <source>Redo Se&amp;veral Steps</source>
+        <translation>複数の操作をやり直す(&amp;V)</translation>
+    </message>
+    <message id="document.undo.step">
+        <source>%1. %2</source>
+        <extracomment>%1 is a number of steps, %2 the name of one of them, such as Add Point</extracomment>
+        <translation>%1. %2</translation>
+    </message>
     <message id="document.command.copy">
         <source>&amp;Copy Selected Series</source>
         <translation>選択した系列をコピー(&amp;C)</translation>
