@@ -365,12 +365,17 @@ MyDocument *DocumentController::documentOf(const QString &path) const
 
 MyDocument &DocumentController::documentForOpening()
 {
-    if (m_keyDocument != nullptr && m_keyDocument->isUntouched())
-        return *m_keyDocument;
-    const auto untouched =
-        std::find_if(m_documents.begin(), m_documents.end(),
-                     [](const auto &document) { return document->isUntouched(); });
-    return untouched == m_documents.end() ? addDocument() : **untouched;
+    MyDocument *untouched = m_keyDocument;
+    if (untouched == nullptr || !untouched->isUntouched()) {
+        const auto found =
+            std::find_if(m_documents.begin(), m_documents.end(),
+                         [](const auto &document) { return document->isUntouched(); });
+        if (found == m_documents.end())
+            return addDocument();
+        untouched = found->get();
+    }
+    untouched->setFileUrl(QUrl()); // that of a picture that did not come
+    return *untouched;
 }
 
 MyDocument &DocumentController::documentForMessages()

@@ -39,25 +39,13 @@ void BackgroundWork::begin(Work work)
 
 void BackgroundWork::abandon()
 {
-    if (const std::shared_ptr<Job> job = takeJob())
-        windingup::leave(std::move(job->worker));
-}
-
-void BackgroundWork::forsake()
-{
-    if (const std::shared_ptr<Job> job = takeJob())
-        windingup::forsake(std::move(job->worker));
-}
-
-std::shared_ptr<BackgroundWork::Job> BackgroundWork::takeJob()
-{
-    std::shared_ptr<Job> job = std::exchange(m_job, nullptr);
-    if (job == nullptr)
-        return nullptr;
+    if (m_job == nullptr)
+        return;
+    const std::shared_ptr<Job> job = std::exchange(m_job, nullptr);
     {
         const std::lock_guard lock(job->mutex);
         job->asking = nullptr;
     }
     job->stop.request_stop();
-    return job;
+    windingup::leave(std::move(job->worker));
 }

@@ -25,16 +25,11 @@ public:
     void begin(Work work);
     /// Gives up the work in progress, if there is one; its handler is not called.
     void abandon();
-    /// The same for work that has proved to hang: the end of the program does not wait for it.
-    void forsake();
 
     [[nodiscard]] bool isWorking() const { return m_job != nullptr; }
 
 private:
     struct Job;
-
-    /// What was in progress, its handler not to be called any more; null if nothing was.
-    std::shared_ptr<Job> takeJob();
 
     std::shared_ptr<Job> m_job; ///< null: nothing is done
 };

@@ -463,6 +463,17 @@ TEST_F(DocumentControllerTest, aWindowWhosePictureCouldNotBeOpenedTakesTheNextFi
     EXPECT_EQ(document().fileUrl().fileName(), QStringLiteral("c.crvgrab"));
 }
 
+TEST_F(DocumentControllerTest, aCopyDoesNotGetTheNameOfAPictureThatDidNotCome)
+{
+    start({put("damaged.png", "x")});
+    press(sheetOf(document()), "OK");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return document().isUntouched(); }));
+    controller.openCopy(putDocument("example.crvgrab"));
+    waitUntilRead();
+    ASSERT_EQ(controller.documents().size(), 1U);
+    EXPECT_EQ(document().fileUrl(), QUrl());
+}
+
 TEST_F(DocumentControllerTest, aWindowThatStillWaitsForItsPictureTakesNoOtherFile)
 {
     controller.start({});
