@@ -3,23 +3,27 @@
 #ifdef CURVEGRAB_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 
+#include <algorithm>
 #include <clocale>
-#include <cstdlib>
-#include <string>
+#include <string_view>
 #include <system_error>
+#include <unistd.h>
 
 namespace {
 
 /// What the application object takes out of the environment goes to its end: what stands before it
 /// keeps its place then, and can be read meanwhile.
-void moveToEndOfEnvironment(const char *name)
+void moveToEndOfEnvironment(std::string_view name)
 {
-    const char *const found = std::getenv(name);
-    if (found == nullptr)
-        return;
-    const std::string value = found;
-    ::unsetenv(name);
-    ::setenv(name, value.c_str(), 1);
+    char **found = nullptr;
+    char **entry = environ;
+    for (; *entry != nullptr; ++entry) {
+        const std::string_view variable = *entry;
+        if (variable.starts_with(name) && variable.substr(name.size()).starts_with('='))
+            found = entry;
+    }
+    if (found != nullptr)
+        std::rotate(found, found + 1, entry);
 }
 
 void readFonts()
