@@ -79,12 +79,8 @@ bool RecentThumbnails::isBeingMade(const QString &path) const
 
 void RecentThumbnails::giveUpAll()
 {
-    for (auto &[path, making] : m_making) {
-        if (path == m_awaited)
-            making.abandon();
-        else
-            making.forsake();
-    }
+    for (auto &[path, making] : m_making)
+        making.abandon();
     m_patience.stop();
     m_awaited.clear();
 }

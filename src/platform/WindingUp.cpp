@@ -69,6 +69,4 @@ void leave(Worker worker)
     workers.add(std::move(worker));
 }
 
-void forsake(Worker worker) { worker.thread.detach(); }
-
 } // namespace windingup

@@ -21,7 +21,4 @@ struct Worker
 /// Leaves the thread to end by itself. Called in one thread only.
 void leave(Worker worker);
 
-/// The same for one that has proved to hang: the end of the program does not wait for it.
-void forsake(Worker worker);
-
 } // namespace windingup

@@ -110,7 +110,7 @@ TEST_F(RecentThumbnailsTest, ofAFileThatHangsHoldUpNoOthers)
     EXPECT_TRUE(isRed(thumbnails.iconOf(paths.at(0))));
 }
 
-TEST_F(RecentThumbnailsTest, ofAFileThatHangsDoNotHoldUpTheEnd)
+TEST_F(RecentThumbnailsTest, ofAFileThatHangsDoNotHoldUpTheirDestruction)
 {
     const auto hanging = std::make_shared<std::promise<void>>();
     const auto ended = std::make_shared<std::promise<void>>();
